@@ -1,0 +1,34 @@
+# What every target is compiled and linked with. Presets turn warnings into errors
+# (CMAKE_COMPILE_WARNING_AS_ERROR) and name the sanitizers (TAVOLUX_SANITIZERS).
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+include(CheckPIESupported)
+check_pie_supported()
+
+set(TAVOLUX_SANITIZERS "" CACHE STRING "Sanitizers to build with, as in -fsanitize=")
+
+add_compile_options(
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wimplicit-fallthrough -Wundef)
+
+add_compile_definitions(
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_NO_KEYWORDS QT_STRICT_ITERATORS)
+
+if(TAVOLUX_SANITIZERS)
+  add_compile_options(-fsanitize=${TAVOLUX_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${TAVOLUX_SANITIZERS})
+elseif(CMAKE_BUILD_TYPE STREQUAL "Release")
+  # The distribution's hardening; position independence is on for every build.
+  add_compile_options(-fstack-protector-strong -fstack-clash-protection -Wformat -Werror=format-security)
+  add_compile_definitions(_FORTIFY_SOURCE=2)
+  add_link_options(-Wl,-z,relro -Wl,-z,now)
+endif()
+
+# Only the libraries that a program really uses are loaded when it starts.
+add_link_options(-Wl,--as-needed)

@@ -1,0 +1,7 @@
+#include "compile.h"
+
+int main(int argc, char *argv[])
+{
+    compile(argc, argv);
+    return 0;
+}

@@ -1,0 +1,26 @@
+/*
+ * The rows that several documents share.
+ */
+#include "printer_driver.h"
+
+using namespace Qt::StringLiterals;
+
+void PrinterDriver::printItem(const QXmlAttributes &item, const QString &format)
+{
+    printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
+                       QObject::tr("Amount"));
+    println(descriptionRow(item.value(u"number"_s), item.value(u"name"_s), item.value(u"price"_s),
+                           item.value(u"totalPrice"_s), u'.', format));
+}
+
+void PrinterDriver::printItemType(const QXmlAttributes &itemType)
+{
+    printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QString(), QObject::tr("Price"));
+    println(descriptionRow(itemType.value(u"number"_s), itemType.value(u"name"_s), QString(),
+                           itemType.value(u"price"_s), u'.', u"qxdpt"_s));
+}
+
+void PrinterDriver::printTotalRow(const QString &label, const QString &amount)
+{
+    println(descriptionRow(QString(), label, QString(), amount, u'.', u"qdpt"_s));
+}

@@ -1,0 +1,60 @@
+#include "printer_driver.h"
+
+#include "diagnostic.h"
+#include "sync_singleton.h"
+#include "tx_configuration.h"
+
+// Unbuffered: the stream has a buffer of its own, and what could not be written must not be tried again.
+PrinterDriver::PrinterDriver(const QString &outputPath, bool append)
+    : configuration(SyncSingleton<TXConfiguration>::instance())
+    , outputFile(outputPath)
+{
+    QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    mode.setFlag(QIODevice::Append, append);
+    if (outputFile.open(mode))
+        outputStream = std::make_unique<QTextStream>(&outputFile);
+    else
+        printDiagnostic("PrintManager::printAbstractOrder(...): Unable To Open File");
+}
+
+PrinterDriver::~PrinterDriver()
+{
+    if (!outputStream)
+        return;
+    outputStream->flush();
+    if (outputStream->status() != QTextStream::Ok)
+        reportFailedOutput();
+}
+
+void PrinterDriver::write(const QString &text)
+{
+    if (!outputStream)
+        return;
+    *outputStream << text;
+    if (outputStream->status() != QTextStream::Ok) {
+        reportFailedOutput();
+        // A stream in error would keep all further text in memory.
+        outputStream.reset();
+    }
+}
+
+void PrinterDriver::reportFailedOutput()
+{
+    printDiagnostic("Error in the method PrinterDriver::print( " + QFile::encodeName(outputFile.fileName())
+                    + " ): " + outputFile.errorString().toLocal8Bit());
+}
+
+void PrinterDriver::reset() { }
+
+void PrinterDriver::initPrinter() { }
+
+void PrinterDriver::printRowFiscal(const QString &, const QXmlAttributes &) { }
+
+void PrinterDriver::printRowFiscal(const QString &, const QString &, const QString &, const QString &) { }
+
+void PrinterDriver::printAbstractOrder(const QString &, const QXmlAttributes &) { }
+
+bool PrinterDriver::printDuplicate()
+{
+    return duplicate;
+}

@@ -1,0 +1,130 @@
+/*
+ * The reader of the "cfg" kind. Bytes are Latin-1 characters, and only four of them mean anything:
+ *
+ *     name : anything { statements } anything ;        a section
+ *     name = value ;                                   a setting
+ *
+ * There is no comment, no escape and no line structure. Nothing is ever refused: text that ends no statement
+ * joins the name that follows it, and what is missing at the end of the file is taken as given.
+ */
+#include "config.h"
+#include "diagnostic.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+namespace libconfig {
+
+namespace {
+
+constexpr int endOfFile = std::ifstream::traits_type::eof();
+
+QString trimmed(const std::string &bytes)
+{
+    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size())).trimmed();
+}
+
+} // namespace
+
+bool Config::openFile(const QString &name)
+{
+    closeFile();
+    inputStream.clear();
+    // A directory opens as a stream that never ends, and a FIFO waits for a writer.
+    if (QFileInfo(name).isFile())
+        inputStream.open(QFile::encodeName(name).toStdString(), std::ios::in | std::ios::binary);
+    if (inputStream.is_open())
+        return true;
+    printDiagnostic("Error in the method FileReader::open( " + QFile::encodeName(name)
+                    + " ): File Not Found");
+    return false;
+}
+
+bool Config::openFile()
+{
+    return openFile(fileName);
+}
+
+void Config::closeFile()
+{
+    inputStream.close();
+}
+
+bool Config::jump(char c)
+{
+    for (int byte = inputStream.get(); byte != endOfFile; byte = inputStream.get())
+        if (byte == std::ifstream::traits_type::to_int_type(c))
+            return true;
+    return false;
+}
+
+void Config::loadFile()
+{
+    // Without a file the stream is at its end from the start, and the store stays empty.
+    openFile();
+    const QDomElement root = document->createElement(fileName);
+    const bool endedByBrace =
+        readStatements(root, *document); // a document is null until something was created in it
+    if (!endedByBrace)
+        closeFile();
+}
+
+void Config::loadFile(const QString &name, QDomNode parent)
+{
+    if (nesting == maximumNesting) {
+        // Whoever nests this deep writes no configuration: reading ends, instead of the stack.
+        inputStream.setstate(std::ios::eofbit);
+        return;
+    }
+    ++nesting;
+    readStatements(document->createElement(name), parent);
+    --nesting;
+}
+
+// Reads statements into the section up to its closing brace (true) or the end of the file (false). The
+// section enters its parent with its first statement; one without any never does, nor does one without a
+// name.
+bool Config::readStatements(QDomElement section, QDomNode parent)
+{
+    const auto enterParent = [&] {
+        if (!parent.isNull() && section.parentNode().isNull())
+            parent.appendChild(section);
+    };
+
+    std::string text;
+    for (int byte = inputStream.get(); byte != endOfFile; byte = inputStream.get()) {
+        switch (byte) {
+        case ':':
+            jump('{');
+            enterParent();
+            loadFile(trimmed(text), section);
+            text.clear();
+            break;
+        case '=':
+            section.setAttribute(trimmed(text), readValue());
+            enterParent();
+            text.clear();
+            break;
+        case '}':
+            jump(';');
+            return true;
+        default:
+            text.push_back(static_cast<char>(byte));
+        }
+    }
+    return false;
+}
+
+// Quotes guard the blanks inside them from trimming, so they are removed only after it.
+QString Config::readValue()
+{
+    std::string value;
+    std::getline(inputStream, value, ';');
+    return trimmed(value).remove(u'"');
+}
+
+} // namespace libconfig

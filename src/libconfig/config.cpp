@@ -1,0 +1,77 @@
+#include "config.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace libconfig {
+
+Config::Config() = default;
+
+Config::Config(const QString &file, const QString &type)
+{
+    constructor(file, type);
+}
+
+Config::~Config() = default;
+
+void Config::readFile(const QString &file, const QString &type)
+{
+    constructor(file, type);
+}
+
+void Config::constructor(const QString &file, const QString &type)
+{
+    fileName = file;
+    fileType = type;
+    document = std::make_unique<QDomDocument>();
+    if (type == "cfg"_L1)
+        loadFile();
+    else if (type == "xml"_L1)
+        loadXmlFile();
+}
+
+// The readers append the element named after the file last. In an "xml" file that begins with a declaration
+// or a comment the file's own root element is left standing before it, and must not answer in its place.
+QDomElement Config::rootElement() const
+{
+    return document ? document->lastChildElement() : QDomElement();
+}
+
+// The tree keeps attributes in a hash whose order differs from run to run; what is shown or written comes in
+// the order of the names, so that it compares well with what was written before.
+QList<QDomAttr> Config::settings(const QDomNode &node)
+{
+    const QDomNamedNodeMap attributes = node.attributes();
+    QList<QDomAttr> sorted;
+    sorted.reserve(attributes.length());
+    for (int i = 0; i < attributes.length(); ++i)
+        sorted.append(attributes.item(i).toAttr());
+    std::ranges::sort(sorted, {}, &QDomAttr::name);
+    return sorted;
+}
+
+QString Config::lookup(const QString &key) const
+{
+    return lookup(rootElement().firstChild(), key);
+}
+
+QString Config::lookup(const QDomNode &node, const QString &key) const
+{
+    const QDomElement section = node.toElement();
+    const qsizetype dot = key.indexOf(u'.');
+    if (section.isNull() || QStringView(key).first(dot < 0 ? key.size() : dot) != section.tagName())
+        return {};
+
+    const QString rest = dot < 0 ? QString() : key.sliced(dot + 1);
+    const QList<QStringView> components = QStringView(rest).split(u'.');
+    if (components.value(1).isEmpty())
+        return section.attribute(components.first().toString());
+
+    for (QDomNode child = section.firstChild(); !child.isNull(); child = child.nextSibling())
+        if (const QString value = lookup(child, rest); !value.isEmpty())
+            return value;
+    return {};
+}
+
+} // namespace libconfig

@@ -1,0 +1,122 @@
+#pragma once
+
+#include <QDomDocument>
+#include <QList>
+#include <QString>
+#include <QStringConverter>
+
+#include <fstream>
+#include <memory>
+
+class QTextStream;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace libconfig {
+
+/*
+ * The configuration store: reads one configuration file into a tree and answers lookups by dotted key.
+ *
+ * The root element of the tree is tagged with the file name; a section is an element tagged with its name, a
+ * setting is an attribute of its section. All values are text. After loading, the tree changes only through
+ * loadListView; lookups from several threads are safe as long as nobody calls that.
+ */
+class Config
+{
+public:
+    /* Sections (elements in the "xml" kind) nested deeper than this are not read. */
+    static constexpr int maximumNesting = 256;
+
+    /* An empty store: every lookup yields the empty text. */
+    Config();
+
+    /* Reads the file, as readFile does. */
+    Config(const QString &file, const QString &type);
+
+    Config(const Config &) = delete;
+    Config &operator=(const Config &) = delete;
+    ~Config();
+
+    /*
+     * Reads the file of the kind "cfg" or "xml" in place of what was held before; any other kind gives an
+     * empty store. A "cfg" file that cannot be opened prints one line on standard output and gives an empty
+     * store; an "xml" file that cannot be read or parsed gives an empty store in silence.
+     */
+    void readFile(const QString &file, const QString &type);
+
+    /* The value of a dotted key such as "tavolux.language.file"; empty when there is none. The key's first
+     * component names the first top-level section: no other is ever searched. */
+    QString lookup(const QString &key) const;
+
+    /* The same below a node, which the key's first component names. Among sections of one name the first that
+     * yields a value that is not empty wins. */
+    QString lookup(const QDomNode &node, const QString &key) const;
+
+    /* Writes the root's settings and the first top-level section to the named file, or over the file that was
+     * read when the name is empty, as "cfg" text (in Latin-1, as it is read) or as XML (in UTF-8). Values are
+     * written as they are, settings in the order of their names. True when the file was written whole;
+     * otherwise nothing is reported, and a regular file keeps what it held. */
+    bool buildConfigFile(const QString &name) const;
+    bool buildConfigXmlFile(const QString &name) const;
+
+    /* Writes one section with all below it, each line behind the indentation. */
+    void buildConfigFile(const QDomNode &node, QTextStream &stream, const QString &indentation = {}) const;
+    void buildConfigXmlFile(const QDomNode &node, QTextStream &stream, const QString &indentation = {}) const;
+
+    /* Prints the whole tree, or one subtree, on standard output, in Latin-1. */
+    void printConfigTree() const;
+    void printConfigTree(const QDomNode &node) const;
+
+    /* A new one-column view of the whole tree, owned by the caller: a branch for each section, an item for
+     * each setting and, below it, the one item that can be edited: the value. */
+    QTreeWidget *buildConfigListView() const;
+    QTreeWidget *newConfigListView() const;
+
+    /* Adds the items of one subtree to the view or below the item. */
+    void buildConfigListView(const QDomNode &node, QTreeWidget *view) const;
+    void buildConfigListView(const QDomNode &node, QTreeWidgetItem *parent) const;
+
+    /* Takes an edited view back as the new tree and writes it over the file that was read, in the kind it was
+     * read as. True when that was written whole; does nothing without a view. */
+    bool loadListView(const QTreeWidget *view);
+
+    /* Rebuilds one item, with all below it, as a new last child of the parent. */
+    void loadListView(const QTreeWidgetItem *item, QDomNode parent);
+
+protected:
+    void constructor(const QString &file, const QString &type);
+
+    /* Opens the byte stream of the "cfg" reader on a regular file; otherwise prints one line on standard
+     * output and returns false. */
+    bool openFile(const QString &name);
+    bool openFile();
+    void closeFile();
+
+    /* Skips forward to just behind the next c; false at the end of the file. */
+    bool jump(char c);
+
+    /* The "cfg" reader for the whole file and for the body of one section. */
+    void loadFile();
+    void loadFile(const QString &name, QDomNode parent);
+
+    /* The "xml" reader. */
+    void loadXmlFile();
+
+private:
+    using NodeWriter = void (Config::*)(const QDomNode &, QTextStream &, const QString &) const;
+
+    QDomElement rootElement() const;
+    static QList<QDomAttr> settings(const QDomNode &node);
+    bool writeFile(const QString &name, QStringConverter::Encoding encoding, NodeWriter writeNode) const;
+
+    bool readStatements(QDomElement section, QDomNode parent);
+    QString readValue();
+
+    QString fileName;
+    QString fileType;
+    std::ifstream inputStream;
+    std::unique_ptr<QDomDocument> document;
+    int nesting = 0;
+};
+
+} // namespace libconfig

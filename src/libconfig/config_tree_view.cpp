@@ -1,0 +1,89 @@
+/*
+ * The store as an editable tree view and back. The only file of the store that needs a display library.
+ */
+#include "config.h"
+
+#include <QHeaderView>
+#include <QTreeWidget>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace libconfig {
+
+namespace {
+
+QTreeWidgetItem *addItem(QTreeWidgetItem *parent, const QString &text)
+{
+    return new QTreeWidgetItem(parent, {text}); // owned by its parent
+}
+
+} // namespace
+
+QTreeWidget *Config::buildConfigListView() const
+{
+    auto view = std::make_unique<QTreeWidget>();
+    view->setHeaderLabel(u"ConfigurationFile"_s);
+    view->header()->setStretchLastSection(false);
+    view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    buildConfigListView(rootElement(), view.get());
+    return view.release();
+}
+
+QTreeWidget *Config::newConfigListView() const
+{
+    return buildConfigListView();
+}
+
+void Config::buildConfigListView(const QDomNode &node, QTreeWidget *view) const
+{
+    buildConfigListView(node, view->invisibleRootItem());
+}
+
+void Config::buildConfigListView(const QDomNode &node, QTreeWidgetItem *parent) const
+{
+    // A comment or the like is no section, and has nothing below it that is one.
+    if (!node.isElement())
+        return;
+    QTreeWidgetItem *section = addItem(parent, node.toElement().tagName());
+    for (const QDomAttr &setting : settings(node)) {
+        QTreeWidgetItem *value = addItem(addItem(section, setting.name()), setting.value());
+        value->setFlags(value->flags() | Qt::ItemIsEditable);
+    }
+    for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
+        buildConfigListView(child, section);
+}
+
+bool Config::loadListView(const QTreeWidget *view)
+{
+    if (!view)
+        return false;
+    document = std::make_unique<QDomDocument>();
+    for (int i = 0; i < view->topLevelItemCount(); ++i)
+        loadListView(view->topLevelItem(i), *document);
+    if (fileType == "cfg"_L1)
+        return buildConfigFile(QString());
+    if (fileType == "xml"_L1)
+        return buildConfigXmlFile(QString());
+    return false;
+}
+
+void Config::loadListView(const QTreeWidgetItem *item, QDomNode parent)
+{
+    QDomElement section = document->createElement(item->text(0));
+    parent.appendChild(section);
+    for (int i = 0; i < item->childCount(); ++i) {
+        const QTreeWidgetItem *child = item->child(i);
+        const QTreeWidgetItem *first = child->child(0);
+        if (!first)
+            continue; // a setting that lost its value
+        if (first->childCount() == 0)
+            section.setAttribute(child->text(0), first->text(0));
+        else
+            // Meant so: a section below one that is not its parent's first ends up in that first one.
+            loadListView(child, parent.firstChild());
+    }
+}
+
+} // namespace libconfig

@@ -1,0 +1,29 @@
+#include "tx_configuration.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString throughLatin1(const QString &text)
+{
+    return QString::fromLatin1(text.toLatin1());
+}
+
+} // namespace
+
+TXConfiguration::TXConfiguration()
+{
+    readFile(userFile(), u"cfg"_s);
+}
+
+QString TXConfiguration::userFile()
+{
+    return QDir::homePath() + "/.tavolux/conf/tavolux.conf"_L1;
+}
+
+QString TXConfiguration::getStrValue(const QString &key) const
+{
+    return throughLatin1(lookup(throughLatin1(key)));
+}
