@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+/* What a finished program left behind. */
+struct ProgramResult
+{
+    bool crashed = false; // or did not end in time
+    int exitStatus = -1;
+    QByteArray standardOutput;
+    QByteArray standardError;
+};
+
+/*
+ * Runs a program to its end (60 seconds at most), with the environment of the test changed by the given
+ * variables; one whose value is a null text is taken out.
+ */
+ProgramResult runProgram(const QString &program, const QStringList &arguments,
+                         const QMap<QString, QString> &environment = {},
+                         const QByteArray &standardInput = {});
