@@ -73,7 +73,7 @@ void Config::loadFile()
         closeFile();
 }
 
-void Config::loadFile(const QString &name, QDomNode parent)
+void Config::loadFile(const QString &name, const QDomNode &parent)
 {
     if (nesting == maximumNesting) {
         // Whoever nests this deep writes no configuration: reading ends, instead of the stack.

@@ -69,7 +69,7 @@ QString Config::lookup(const QDomNode &node, const QString &key) const
         return section.attribute(components.first().toString());
 
     for (QDomNode child = section.firstChild(); !child.isNull(); child = child.nextSibling())
-        if (const QString value = lookup(child, rest); !value.isEmpty())
+        if (QString value = lookup(child, rest); !value.isEmpty())
             return value;
     return {};
 }

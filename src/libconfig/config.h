@@ -97,7 +97,7 @@ protected:
 
     /* The "cfg" reader for the whole file and for the body of one section. */
     void loadFile();
-    void loadFile(const QString &name, QDomNode parent);
+    void loadFile(const QString &name, const QDomNode &parent);
 
     /* The "xml" reader. */
     void loadXmlFile();
