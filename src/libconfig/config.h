@@ -111,6 +111,7 @@ private:
 
     bool readStatements(QDomElement section, QDomNode parent);
     QString readValue();
+    int nextByte();
 
     QString fileName;
     QString fileType;
