@@ -6,6 +6,39 @@ using namespace Qt::StringLiterals;
 
 namespace libconfig {
 
+namespace {
+
+// A dotted key's first component, and what follows the dot behind it.
+QStringView head(QStringView key)
+{
+    const qsizetype dot = key.indexOf(u'.');
+    return dot < 0 ? key : key.first(dot);
+}
+
+QStringView tail(QStringView key)
+{
+    const qsizetype dot = key.indexOf(u'.');
+    return dot < 0 ? QStringView() : key.sliced(dot + 1);
+}
+
+QString valueBelow(const QDomNode &node, QStringView key)
+{
+    const QDomElement section = node.toElement();
+    if (section.isNull() || head(key) != section.tagName())
+        return {};
+
+    const QStringView rest = tail(key);
+    if (head(tail(rest)).isEmpty()) // an empty third component ends the key, whatever follows it
+        return section.attribute(head(rest).toString());
+
+    for (QDomNode child = section.firstChild(); !child.isNull(); child = child.nextSibling())
+        if (QString value = valueBelow(child, rest); !value.isEmpty())
+            return value;
+    return {};
+}
+
+} // namespace
+
 Config::Config() = default;
 
 Config::Config(const QString &file, const QString &type)
@@ -58,20 +91,7 @@ QString Config::lookup(const QString &key) const
 
 QString Config::lookup(const QDomNode &node, const QString &key) const
 {
-    const QDomElement section = node.toElement();
-    const qsizetype dot = key.indexOf(u'.');
-    if (section.isNull() || QStringView(key).first(dot < 0 ? key.size() : dot) != section.tagName())
-        return {};
-
-    const QString rest = dot < 0 ? QString() : key.sliced(dot + 1);
-    const QList<QStringView> components = QStringView(rest).split(u'.');
-    if (components.value(1).isEmpty())
-        return section.attribute(components.first().toString());
-
-    for (QDomNode child = section.firstChild(); !child.isNull(); child = child.nextSibling())
-        if (QString value = lookup(child, rest); !value.isEmpty())
-            return value;
-    return {};
+    return valueBelow(node, key);
 }
 
 } // namespace libconfig
