@@ -25,7 +25,7 @@ constexpr int endOfFile = std::ifstream::traits_type::eof();
 
 QString trimmed(const std::string &bytes)
 {
-    return QLatin1StringView(bytes.data(), static_cast<qsizetype>(bytes.size())).trimmed().toString();
+    return QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size())).trimmed();
 }
 
 } // namespace
@@ -55,7 +55,10 @@ void Config::closeFile()
 }
 
 // Straight from the buffer: a formatted stream's checks for every byte would be half the time of loading.
-int Config::nextByte() { return inputStream.rdbuf()->sbumpc(); }
+int Config::nextByte()
+{
+    return inputStream.rdbuf()->sbumpc();
+}
 
 bool Config::jump(char c)
 {
