@@ -119,7 +119,7 @@ private:
         driver.println(attributes.value(u"lastserial"_s));
     }
 
-    // The attributes' own access by position does not look at their number.
+    // Empty behind the last attribute, where QXmlAttributes would read past its end.
     QString textAt(int position) const
     {
         return position < attributes.count() ? attributes.value(position) : QString();
