@@ -42,6 +42,13 @@ QMap<QString, Entry> entries(const QString &catalogue)
     return found;
 }
 
+QString labelsOnlyIn(const QMap<QString, Entry> &catalogue, const QMap<QString, Entry> &other)
+{
+    QStringList labels = catalogue.keys();
+    labels.removeIf([&](const QString &label) { return other.contains(label); });
+    return labels.join(u"; ");
+}
+
 QString catalogueOf(const QString &language, const QString &folder = sourceFolder)
 {
     return folder + "/translations/tavolux_"_L1 + language + ".ts"_L1;
@@ -115,22 +122,24 @@ void CatalogueTest::oneForEachLanguage()
 void CatalogueTest::holdsLabelsOfSources()
 {
     QFETCH(const QString, language);
-    const QStringList labels = entries(catalogueOf(language)).keys();
-    const QStringList wanted = entries(catalogueOf(language, refreshed.path())).keys();
+    const QMap<QString, Entry> catalogue = entries(catalogueOf(language));
+    const QMap<QString, Entry> wanted = entries(catalogueOf(language, refreshed.path()));
     QVERIFY(wanted.contains("QObject::    Amount not paid: "_L1));
     QVERIFY(wanted.contains("QObject::withdrawal"_L1));
-    QCOMPARE(labels, wanted);
+    QCOMPARE(labelsOnlyIn(wanted, catalogue), QString());
+    QCOMPARE(labelsOnlyIn(catalogue, wanted), QString());
 }
 
 void CatalogueTest::isFinished()
 {
     QFETCH(const QString, language);
     const QMap<QString, Entry> catalogue = entries(catalogueOf(language));
+    QVERIFY(!catalogue.isEmpty());
     QStringList unfinished;
     for (auto entry = catalogue.begin(); entry != catalogue.end(); ++entry)
         if (!entry->state.isEmpty() || entry->translation.isEmpty())
             unfinished << entry.key();
-    QCOMPARE(unfinished, QStringList());
+    QCOMPARE(unfinished.join(u"; "), QString());
 }
 
 // Blanks indent a label or part it from its value; the colon says that a value follows.
