@@ -2,7 +2,7 @@
 #include "languages.h"
 #include "program_run.h"
 
-#include <QDir>
+#include <QFile>
 #include <QLocale>
 #include <QTest>
 #include <QTranslator>
