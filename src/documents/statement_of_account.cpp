@@ -2,6 +2,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The kinds that applications write most. They come from the document and nothing here looks them up: the
+// table is what brings them into the catalogues.
+[[maybe_unused]] constexpr const char *commonKinds[] = {
+    QT_TRANSLATE_NOOP("QObject", "deposit"), QT_TRANSLATE_NOOP("QObject", "withdrawal"),
+    QT_TRANSLATE_NOOP("QObject", "payment"), QT_TRANSLATE_NOOP("QObject", "invoice"),
+    QT_TRANSLATE_NOOP("QObject", "credit"),  QT_TRANSLATE_NOOP("QObject", "refund"),
+};
+
+} // namespace
+
 void PrinterDriver::printStatementOfAccount(const QString &qName, const QXmlAttributes &attributes)
 {
     if (printSections(qName, attributes))
