@@ -20,7 +20,7 @@ QString projectText(const QString &path)
     return QString::fromUtf8(fileBytes(projectFolder.filePath(path)));
 }
 
-QStringList pages()
+QStringList markdownPages()
 {
     QStringList found;
     for (const QString &folder : {u"."_s, u"docs"_s})
@@ -141,7 +141,7 @@ void PagesTest::printsWhatThePageShows_data()
     QTest::addColumn<QString>("document");
     QTest::addColumn<QString>("printout");
 
-    for (const QString &path : pages()) {
+    for (const QString &path : markdownPages()) {
         QString configuration;
         const QList<FencedBlock> blocks = readPage(path).blocks;
         for (qsizetype i = 0; i < blocks.size(); ++i) {
@@ -175,7 +175,7 @@ void PagesTest::printsWhatThePageShows()
 void PagesTest::everyDocumentHasItsPrintout_data()
 {
     QTest::addColumn<QString>("path");
-    for (const QString &path : pages())
+    for (const QString &path : markdownPages())
         QTest::addRow("%s", qPrintable(path)) << path;
 }
 
@@ -200,7 +200,7 @@ void PagesTest::linksResolve_data()
     QTest::addColumn<QString>("target");
 
     static const QRegularExpression links(u"\\]\\(([^)]+)\\)"_s);
-    for (const QString &path : pages())
+    for (const QString &path : markdownPages())
         for (const QRegularExpressionMatch &match : links.globalMatch(readPage(path).prose))
             QTest::addRow("%s: %s", qPrintable(path), qPrintable(match.captured(1)))
                 << path << match.captured(1);
@@ -222,14 +222,14 @@ void PagesTest::linksResolve()
 void PagesTest::namesWhatTheSourcesKnow_data()
 {
     QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("pages");
     QTest::addColumn<qsizetype>("least"); // so that a pattern that misses its table is noticed
 
     const QStringList profile = {u"src/driver/document_profile.cpp"_s};
     const QStringList documents =
         sources(u"src/documents"_s) + QStringList{u"src/driver/document_headers.cpp"_s};
-    const QString configuration = u"docs/configuration.md"_s;
-    const QString format = u"docs/document-format.md"_s;
+    const QStringList configuration = {u"docs/configuration.md"_s, u"docs/man/tavolux.conf.5.in"_s};
+    const QStringList format = {u"docs/document-format.md"_s};
 
     QTest::newRow("settings of every profile")
         << textsInSources(profile, u"\\{\"(\\w+)\"_L1,\\s*&DocumentProfile::"_s) << configuration
@@ -239,14 +239,14 @@ void PagesTest::namesWhatTheSourcesKnow_data()
                           u"(?:value\\(|documentPrefix \\+ |QLatin1StringView \\w+\\{)\"(\\w+)\""_s)
         << configuration << qsizetype(3);
     QTest::newRow("settings of the program")
-        << textsInSources({u"src/app/compile.cpp"_s}, u"getStrValue\\(u\"([\\w.]+)\"_s\\)"_s) << configuration
-        << qsizetype(2);
+        << textsInSources({u"src/app/compile.cpp"_s}, u"getStrValue\\(u\"([\\w.]+)\"_s\\)"_s)
+        << QStringList{configuration.first()} << qsizetype(2);
     QTest::newRow("profiles") << textsInSources(profile, u"\"tavolux\\.(\\w+)\\.\"_L1"_s) << configuration
                               << qsizetype(8);
 
     QTest::newRow("methods") << textsInSources({u"src/driver/event_dispatch.cpp"_s},
                                                u"\\{\"(print\\w+)\"_L1,"_s)
-                             << format << qsizetype(13);
+                             << format + QStringList{u"docs/man/tavolux-printer.1.in"_s} << qsizetype(13);
     QTest::newRow("header elements") << textsInSources({u"src/driver/document_headers.cpp"_s},
                                                        u"\\{\"(\\w+)\"_L1,\\s*\\[\\]"_s)
                                      << format << qsizetype(9);
@@ -264,13 +264,18 @@ void PagesTest::namesWhatTheSourcesKnow_data()
 void PagesTest::namesWhatTheSourcesKnow()
 {
     QFETCH(QStringList, names);
-    QFETCH(QString, page);
+    QFETCH(QStringList, pages);
     QFETCH(qsizetype, least);
 
     QCOMPARE_GE(names.size(), least);
-    const QString prose = readPage(page).prose;
-    for (const QString &name : names)
-        QVERIFY2(prose.contains(u'`' + name + u'`'), qPrintable(name));
+    for (const QString &page : pages) {
+        const bool isManual = page.endsWith(".in"_L1);
+        const QString prose = readPage(page).prose;
+        for (const QString &name : names) {
+            const QRegularExpression named((isManual ? u"\\b%1\\b"_s : u"`%1`"_s).arg(name));
+            QVERIFY2(named.match(prose).hasMatch(), qPrintable(page + u": "_s + name));
+        }
+    }
 }
 
 void PagesTest::showsTheMessagesOfTheSources()
