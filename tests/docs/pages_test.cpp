@@ -129,6 +129,7 @@ private Q_SLOTS:
     void linksResolve();
     void namesWhatTheSourcesKnow_data();
     void namesWhatTheSourcesKnow();
+    void mapsEveryFolder();
     void showsTheMessagesOfTheSources();
     void showsNoOtherMessages();
 };
@@ -275,6 +276,23 @@ void PagesTest::namesWhatTheSourcesKnow()
             const QRegularExpression named((isManual ? u"\\b%1\\b"_s : u"`%1`"_s).arg(name));
             QVERIFY2(named.match(prose).hasMatch(), qPrintable(page + u": "_s + name));
         }
+    }
+}
+
+void PagesTest::mapsEveryFolder()
+{
+    static const QStringList generated = {u"build"_s, u"printouts"_s};
+    QStringList folders = projectFolder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QVERIFY(folders.removeOne(u"src"_s));
+    for (const QString &room :
+         QDir(projectFolder.filePath(u"src"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        folders.append("src/"_L1 + room);
+
+    const QString map =
+        projectText(u"README.md"_s).section(u"## Map of the tree"_s, 1).section(u"\n## "_s, 0, 0);
+    for (const QString &folder : folders) {
+        const bool named = map.contains(u'[' + folder + u']') || map.contains(u'`' + folder + u'`');
+        QVERIFY2(named || generated.contains(folder), qPrintable(folder));
     }
 }
 
