@@ -59,7 +59,8 @@ bool Config::loadListView(const QTreeWidget *view)
 {
     if (!view)
         return false;
-    document = std::make_unique<QDomDocument>();
+    // Named, though without a name: a document made otherwise is a null node, which takes no children.
+    document = std::make_unique<QDomDocument>(QString());
     for (int i = 0; i < view->topLevelItemCount(); ++i)
         loadListView(view->topLevelItem(i), *document);
     if (fileType == "cfg"_L1)
