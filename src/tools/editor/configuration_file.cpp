@@ -38,7 +38,7 @@ QString ConfigurationFile::path() const
 QString ConfigurationFile::read()
 {
     QByteArray bytes;
-    if (const QString reason = readAll(filePath, bytes); !reason.isEmpty())
+    if (QString reason = readAll(filePath, bytes); !reason.isEmpty())
         return reason;
     if (type == "xml"_L1) {
         QString reason;
