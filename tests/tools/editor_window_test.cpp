@@ -85,6 +85,7 @@ private Q_SLOTS:
     void leavesAnUnchangedFileAlone();
     void savesXml();
     void opensAndClosesSectionsByReturn();
+    void activatesByDoubleClick();
     void columnFitsItsContent();
     void tellsTheKey();
 
@@ -122,6 +123,7 @@ private:
     QLineEdit *findField() const { return window->findChild<QLineEdit *>(u"find"_s); }
     QLineEdit *valueField() const { return view()->viewport()->findChild<QLineEdit *>(); }
     QTreeWidgetItem *value(const QString &key) const;
+    void doubleClick(const QTreeWidgetItem *item) const;
     void type(const QString &key, const QString &text);
     void change(const QString &key, const QString &text);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const;
@@ -169,14 +171,18 @@ QTreeWidgetItem *EditorWindowTest::value(const QString &key) const
     qFatal("there is no value %s", qPrintable(key));
 }
 
-// Double-clicks the value and types over it; the field stays open.
-void EditorWindowTest::type(const QString &key, const QString &text)
+void EditorWindowTest::doubleClick(const QTreeWidgetItem *item) const
 {
-    QTreeWidgetItem *item = value(key);
     view()->scrollToItem(item);
     const QPoint place = view()->visualItemRect(item).topLeft() + QPoint(4, 4);
     QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, place);
+}
+
+// Double-clicks the value and types over it; the field stays open.
+void EditorWindowTest::type(const QString &key, const QString &text)
+{
+    doubleClick(value(key));
     QVERIFY(valueField());
     QTest::keyClicks(valueField(), text);
 }
@@ -315,6 +321,19 @@ void EditorWindowTest::opensAndClosesSectionsByReturn()
     QVERIFY(receipt->child(0)->isExpanded()); // so the values are seen at once
     press(Qt::Key_Return);
     QVERIFY(!receipt->isExpanded());
+}
+
+void EditorWindowTest::activatesByDoubleClick()
+{
+    open(configuration);
+    QTreeWidgetItem *receipt = view()->topLevelItem(0)->child(0)->child(1);
+    doubleClick(receipt);
+    QVERIFY(receipt->isExpanded());
+    QTreeWidgetItem *name = value(u"r.receipt.paperWidth"_s)->parent();
+    doubleClick(name); // which edits the value
+    QVERIFY(valueField());
+    QCOMPARE(valueField()->text(), u"42"_s);
+    QVERIFY(name->isExpanded());
 }
 
 void EditorWindowTest::columnFitsItsContent()
