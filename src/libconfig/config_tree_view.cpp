@@ -14,9 +14,26 @@ namespace libconfig {
 
 namespace {
 
-QTreeWidgetItem *addItem(QTreeWidgetItem *parent, const QString &text)
+// The items that name a setting, so that one that lost its value is not taken for an empty section.
+constexpr int settingItem = QTreeWidgetItem::UserType;
+
+QTreeWidgetItem *addItem(QTreeWidgetItem *parent, const QString &text, int type = QTreeWidgetItem::Type)
 {
-    return new QTreeWidgetItem(parent, {text}); // owned by its parent
+    return new QTreeWidgetItem(parent, {text}, type); // owned by its parent
+}
+
+bool lostItsValue(const QTreeWidgetItem *item)
+{
+    return item->type() == settingItem && item->childCount() == 0;
+}
+
+// The first child that counts; null when there is none.
+const QTreeWidgetItem *firstChild(const QTreeWidgetItem *item)
+{
+    int i = 0;
+    while (i < item->childCount() && lostItsValue(item->child(i)))
+        ++i;
+    return item->child(i);
 }
 
 } // namespace
@@ -48,7 +65,7 @@ void Config::buildConfigListView(const QDomNode &node, QTreeWidgetItem *parent) 
         return;
     QTreeWidgetItem *section = addItem(parent, node.toElement().tagName());
     for (const QDomAttr &setting : settings(node)) {
-        QTreeWidgetItem *value = addItem(addItem(section, setting.name()), setting.value());
+        QTreeWidgetItem *value = addItem(addItem(section, setting.name(), settingItem), setting.value());
         value->setFlags(value->flags() | Qt::ItemIsEditable);
     }
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
@@ -59,7 +76,8 @@ bool Config::loadListView(const QTreeWidget *view)
 {
     if (!view)
         return false;
-    document = std::make_unique<QDomDocument>();
+    // Named, though without a name: a document made otherwise is a null node, which takes no children.
+    document = std::make_unique<QDomDocument>(QString());
     for (int i = 0; i < view->topLevelItemCount(); ++i)
         loadListView(view->topLevelItem(i), *document);
     if (fileType == "cfg"_L1)
@@ -75,9 +93,9 @@ void Config::loadListView(const QTreeWidgetItem *item, QDomNode parent)
     parent.appendChild(section);
     for (int i = 0; i < item->childCount(); ++i) {
         const QTreeWidgetItem *child = item->child(i);
-        const QTreeWidgetItem *first = child->child(0);
+        const QTreeWidgetItem *first = firstChild(child);
         if (!first)
-            continue; // a setting that lost its value
+            continue; // nothing to save
         if (first->childCount() == 0)
             section.setAttribute(child->text(0), first->text(0));
         else

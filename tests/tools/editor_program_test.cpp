@@ -1,0 +1,67 @@
+#include "program_run.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class EditorProgramTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void answersWithoutDisplay_data();
+    void answersWithoutDisplay();
+    void refusesWrongArguments_data();
+    void refusesWrongArguments();
+};
+
+void EditorProgramTest::answersWithoutDisplay_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QByteArray>("answer"); // at the beginning of one of its lines
+    QTest::newRow("--version") << u"--version"_s << QByteArray("tavolux-config-editor " TAVOLUX_VERSION "\n");
+    QTest::newRow("-v") << u"-v"_s << QByteArray("tavolux-config-editor " TAVOLUX_VERSION "\n");
+    QTest::newRow("--help") << u"--help"_s << QByteArray("  --type <cfg|xml>");
+    QTest::newRow("-h") << u"-h"_s << QByteArray("  --file <FILE>");
+}
+
+void EditorProgramTest::answersWithoutDisplay()
+{
+    QFETCH(QString, option);
+    QFETCH(QByteArray, answer);
+    const ProgramResult result = runProgram(QStringLiteral(EDITOR_PROGRAM), {option},
+                                            {{u"QT_QPA_PLATFORM"_s, u"xcb"_s}, {u"DISPLAY"_s, QString()}});
+    QVERIFY(!result.crashed);
+    QCOMPARE(result.exitStatus, 0);
+    QCOMPARE(result.standardError, QByteArray());
+    QVERIFY2(('\n' + result.standardOutput).contains('\n' + answer), result.standardOutput.constData());
+}
+
+void EditorProgramTest::refusesWrongArguments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("message");
+    QTest::newRow("unknown kind") << QStringList{u"--type"_s, u"ini"_s}
+                                  << QByteArray("unknown type 'ini': it is cfg or xml\n");
+    QTest::newRow("kind in capitals")
+        << QStringList{u"--type=XML"_s} << QByteArray("unknown type 'XML': it is cfg or xml\n");
+    QTest::newRow("two files") << QStringList{u"a"_s, u"b"_s} << QByteArray("only one file can be edited\n");
+    QTest::newRow("a file in both ways")
+        << QStringList{u"--file"_s, u"a"_s, u"b"_s} << QByteArray("only one file can be edited\n");
+    QTest::newRow("unknown option") << QStringList{u"--fiel"_s, u"a"_s}
+                                    << QByteArray("Unknown option 'fiel'.\n");
+}
+
+void EditorProgramTest::refusesWrongArguments()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, message);
+    const ProgramResult result = runProgram(QStringLiteral(EDITOR_PROGRAM), arguments);
+    QVERIFY(!result.crashed);
+    QCOMPARE(result.exitStatus, 1);
+    QCOMPARE(result.standardOutput, QByteArray());
+    QVERIFY2(result.standardError.endsWith(message), result.standardError.constData());
+}
+
+QTEST_GUILESS_MAIN(EditorProgramTest)
+#include "editor_program_test.moc"
