@@ -98,23 +98,28 @@ constexpr TightestRow tightestRows[] = {
     {"sold"_L1, besideMultipliedAmounts},
 };
 
-/* The text as a message shows it: on one line, not too long, quoted. */
-QString quoted(const QString &text)
-{
-    constexpr qsizetype longest = 50;
-    const QString shown = text.simplified();
-    return u'"' + (shown.size() > longest ? shown.first(longest) + u'…' : shown) + u'"';
-}
-
 bool containsAny(const QString &text, QStringView characters)
 {
     return std::ranges::find_first_of(text, characters) != text.end();
 }
 
-// What is meant as a value stands on one line, or at least holds nothing that looks like a statement.
+bool isOnOneLine(const QString &text)
+{
+    return !containsAny(text, u"\r\n");
+}
+
+/* The text as a message shows it: on one line, not too long, quoted. */
+QString quoted(const QString &text)
+{
+    constexpr qsizetype longest = 50;
+    const QString shown = isOnOneLine(text) ? text : text.simplified();
+    return u'"' + (shown.size() > longest ? shown.first(longest) + u'…' : shown) + u'"';
+}
+
+// What is meant as a value holds nothing that looks like a statement.
 bool swallowsStatements(const QString &value)
 {
-    return containsAny(value, u"{}") || (containsAny(value, u"\r\n") && containsAny(value, u"=:"));
+    return containsAny(value, u"{}") || (!isOnOneLine(value) && containsAny(value, u"=:"));
 }
 
 bool isUtf8ReadAsLatin1(const QString &text)
@@ -296,7 +301,7 @@ private:
         if (!setting.complete)
             add(setting.line,
                 u"the value of %1 runs to the end of the file; is a semicolon missing?"_s.arg(name));
-        if (swallowsStatements(setting.value)) {
+        if (kind == "cfg"_L1 && swallowsStatements(setting.value)) {
             add(setting.line,
                 u"the value of %1 takes in %2; is a semicolon missing?"_s.arg(name, quoted(setting.value)));
             return;
@@ -352,7 +357,7 @@ private:
     bool isLegible(int line, const QString &name)
     {
         checkCharacters(line, name);
-        if (!containsAny(name, u"{;\"\r\n"))
+        if (isOnOneLine(name) && !containsAny(name, u"{;\""))
             return true;
         add(line, u"%1 is taken for one name; is something missing in it?"_s.arg(quoted(name)));
         return false;
@@ -402,9 +407,11 @@ private:
         // As the printing program loads it.
         QTranslator translator;
         const QString name = basedir + (byLocale ? "/tavolux_"_L1 + locale.name() : file);
+        if (swallowsStatements(name))
+            return; // named already
         if (!translator.load(name, byLocale ? u"."_s : QString()))
             add(lineOf.value(languageSection + ".file"_L1, lineOf.value(languageSection + ".basedir"_L1)),
-                u"the translation %1 is not found"_s.arg(quoted(name)));
+                u"the translation \"%1\" is not found"_s.arg(name));
     }
 
     const QString kind;
