@@ -193,6 +193,8 @@ private Q_SLOTS:
             << QByteArray("} x; k = v;") << QStringList{u"1 end"_s, u"1 skipped <x>"_s};
         QTest::newRow("a byte is a character")
             << QByteArray("k = \xE4\xC3\xB6;") << QStringList{u"1 set <k> <äÃ¶>"_s};
+        QTest::newRow("a no-break space is a blank")
+            << QByteArray("\xA0k\xA0=\xA0v\xA0;") << QStringList{u"1 set <k> <v>"_s};
         QTest::newRow("a null byte is a character like any other")
             << QByteArray("a\0b = v;", 8) << QStringList{QString::fromLatin1("1 set <a\0b> <v>", 15)};
     }
