@@ -409,7 +409,7 @@ private:
         const QString name = basedir + (byLocale ? "/tavolux_"_L1 + locale.name() : file);
         if (swallowsStatements(name))
             return; // named already
-        if (!translator.load(name, byLocale ? u"."_s : QString()))
+        if (!translator.load(name))
             add(lineOf.value(languageSection + ".file"_L1, lineOf.value(languageSection + ".basedir"_L1)),
                 u"the translation \"%1\" is not found"_s.arg(name));
     }
