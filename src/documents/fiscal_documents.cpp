@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 
 void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttributes &attributes)
 {
-    int descriptionWidth = configuration.getStrValue(documentPrefix + "descriptionWidth"_L1).toInt();
+    int descriptionWidth =
+        configuration.getStrValue(documentPrefix + DocumentProfile::descriptionWidth).toInt();
     if (descriptionWidth == 0)
         descriptionWidth = static_cast<int>(getPaperWidth());
 

@@ -81,7 +81,7 @@ void PrinterDriver::printGeometry(const QXmlAttributes &)
 {
     if (!profile.printGeometry)
         return;
-    const int lines = configuration.getStrValue(documentPrefix + "topMargin"_L1).toInt();
+    const int lines = configuration.getStrValue(documentPrefix + DocumentProfile::topMargin).toInt();
     for (int line = 0; line < lines; ++line)
         println(QString());
 }

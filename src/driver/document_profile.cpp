@@ -1,7 +1,4 @@
-#include "printer_driver.h"
-
-#include "diagnostic.h"
-#include "tx_configuration.h"
+#include "document_profile.h"
 
 #include <algorithm>
 
@@ -9,27 +6,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct DocumentType
-{
-    QLatin1StringView name;
-    QLatin1StringView keyPrefix;
-};
-
-constexpr DocumentType documentTypes[] = {
+constexpr DocumentType allTypes[] = {
     {"order"_L1, "tavolux.doc."_L1},          {"prefiscal"_L1, "tavolux.prefiscaldoc."_L1},
     {"fiscal"_L1, "tavolux.fiscaldoc."_L1},   {"receipt"_L1, "tavolux.receiptdoc."_L1},
     {"invoice"_L1, "tavolux.invoicedoc."_L1}, {"delivery"_L1, "tavolux.deliverydoc."_L1},
     {"report"_L1, "tavolux.reportdoc."_L1},   {"sold"_L1, "tavolux.solddoc."_L1},
 };
 
-template <typename Value>
-struct Setting
-{
-    QLatin1StringView name;
-    Value DocumentProfile::*field;
-};
-
-constexpr Setting<int> widths[] = {
+constexpr ProfileSetting<int> widths[] = {
     {"quantityFieldWidth"_L1, &DocumentProfile::quantityFieldWidth},
     {"priceFieldWidth"_L1, &DocumentProfile::priceFieldWidth},
     {"totalPriceFieldWidth"_L1, &DocumentProfile::totalPriceFieldWidth},
@@ -37,7 +21,7 @@ constexpr Setting<int> widths[] = {
     {"paperRows"_L1, &DocumentProfile::paperRows},
 };
 
-constexpr Setting<bool> switches[] = {
+constexpr ProfileSetting<bool> switches[] = {
     {"printGeometry"_L1, &DocumentProfile::printGeometry},
     {"printHeader"_L1, &DocumentProfile::printHeader},
     {"printLogo"_L1, &DocumentProfile::printLogo},
@@ -59,29 +43,17 @@ constexpr Setting<bool> switches[] = {
 
 } // namespace
 
-QString PrinterDriver::documentPath(const QString &docType) const
-{
-    const QString type = docType.toLower();
-    if (const auto *known = std::ranges::find(documentTypes, type, &DocumentType::name);
-        known != std::end(documentTypes))
-        return known->keyPrefix;
-    printDiagnostic("Error into PrinterDriver::documentPath:  " + type.toLocal8Bit());
-    return u"tavolux.prefiscaldoc."_s;
-}
+constexpr std::span<const ProfileSetting<int>> profileWidths = widths;
+constexpr std::span<const ProfileSetting<bool>> profileSwitches = switches;
+constexpr std::span<const DocumentType> documentTypes = allTypes;
 
-void PrinterDriver::loadValues(const QString &docType)
+DocumentProfile DocumentProfile::load(const std::function<QString(QLatin1StringView setting)> &value)
 {
-    documentPrefix = documentPath(docType);
-    const auto value = [this](QLatin1StringView setting) {
-        return configuration.getStrValue(documentPrefix + setting);
-    };
-
-    for (const auto &[name, field] : widths)
-        profile.*field =
-            std::clamp(value(name).toInt(), -DocumentProfile::widestLine, DocumentProfile::widestLine);
-    if (profile.paperWidth == 0)
-        profile.paperWidth = static_cast<int>(getPaperWidth());
-    value("style"_L1); // belongs to every profile; no printer has a use for it
-    for (const auto &[name, field] : switches)
+    DocumentProfile profile;
+    for (const auto &[name, field] : profileWidths)
+        profile.*field = std::clamp(value(name).toInt(), -widestLine, widestLine);
+    value(style);
+    for (const auto &[name, field] : profileSwitches)
         profile.*field = value(name) == "true"_L1;
+    return profile;
 }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QLatin1StringView>
 #include <QString>
+
+#include <functional>
+#include <span>
 
 /*
  * How a kind of document is printed: the user's settings for it, under their own names. Widths count
@@ -11,6 +15,15 @@ struct DocumentProfile
     /* Wider than any paper: a larger width (or a smaller negative one) is taken for this one, so that a slip
      * of the pen in the configuration does not fill the memory. */
     static constexpr int widestLine = 100'000;
+
+    /* Settings that no field holds: the first no printer has a use for, the others are read when they are
+     * needed, the last by fiscal documents only. */
+    static constexpr QLatin1StringView style{"style"};
+    static constexpr QLatin1StringView topMargin{"topMargin"};
+    static constexpr QLatin1StringView descriptionWidth{"descriptionWidth"};
+
+    /* The profile that the values of the settings, asked for by name, make. */
+    static DocumentProfile load(const std::function<QString(QLatin1StringView setting)> &value);
 
     int quantityFieldWidth = 0;
     int priceFieldWidth = 0;
@@ -36,3 +49,23 @@ struct DocumentProfile
     bool printNote = false;
     bool openCashDrawer = false;
 };
+
+/* A setting of the profile: its name in the configuration and the field that holds it. */
+template <typename Value>
+struct ProfileSetting
+{
+    QLatin1StringView name;
+    Value DocumentProfile::*field;
+};
+
+/* A kind of document, as the driver names it, and what the keys of its settings begin with. */
+struct DocumentType
+{
+    QLatin1StringView name;
+    QLatin1StringView keyPrefix;
+};
+
+// In the order in which they are read and looked up.
+extern const std::span<const ProfileSetting<int>> profileWidths;
+extern const std::span<const ProfileSetting<bool>> profileSwitches;
+extern const std::span<const DocumentType> documentTypes;

@@ -4,6 +4,10 @@
 #include "sync_singleton.h"
 #include "tx_configuration.h"
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
 // Unbuffered: the stream has a buffer of its own, and what could not be written must not be tried again.
 PrinterDriver::PrinterDriver(const QString &outputPath, bool append)
     : configuration(SyncSingleton<TXConfiguration>::instance())
@@ -24,6 +28,25 @@ PrinterDriver::~PrinterDriver()
     outputStream->flush();
     if (outputStream->status() != QTextStream::Ok)
         reportFailedOutput();
+}
+
+QString PrinterDriver::documentPath(const QString &docType) const
+{
+    const QString type = docType.toLower();
+    if (const auto known = std::ranges::find(documentTypes, type, &DocumentType::name);
+        known != documentTypes.end())
+        return known->keyPrefix;
+    printDiagnostic("Error into PrinterDriver::documentPath:  " + type.toLocal8Bit());
+    return u"tavolux.prefiscaldoc."_s;
+}
+
+void PrinterDriver::loadValues(const QString &docType)
+{
+    documentPrefix = documentPath(docType);
+    profile = DocumentProfile::load(
+        [this](QLatin1StringView setting) { return configuration.getStrValue(documentPrefix + setting); });
+    if (profile.paperWidth == 0)
+        profile.paperWidth = static_cast<int>(getPaperWidth());
 }
 
 void PrinterDriver::write(const QString &text)

@@ -18,6 +18,11 @@ TXConfiguration::TXConfiguration()
     readFile(userFile(), u"cfg"_s);
 }
 
+TXConfiguration::TXConfiguration(const QString &file, const QString &type)
+    : Config(file, type)
+{
+}
+
 QString TXConfiguration::userFile()
 {
     return QDir::homePath() + "/.tavolux/conf/tavolux.conf"_L1;

@@ -12,6 +12,9 @@ public:
     /* Reads the user's file. One that cannot be opened prints one line and leaves every setting empty. */
     TXConfiguration();
 
+    /* The same from another file, of the kind "cfg" or "xml", for programs that look after configurations. */
+    TXConfiguration(const QString &file, const QString &type);
+
     /* The path of the user's file. */
     static QString userFile();
 

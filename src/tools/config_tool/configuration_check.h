@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+/* Something that a person would want to know about a configuration file. */
+struct Finding
+{
+    int line; // 0: of the file as a whole
+    QString text;
+
+    bool operator==(const Finding &) const = default;
+};
+
+/*
+ * Looks for all that the printing program passes over in silence: what it never reads, values that it cannot
+ * use, columns that leave no room on the paper, a translation that is not there. Sorted by line.
+ *
+ * The text is the file's; the kind is "cfg" or "xml". A missing translation for an English locale is no
+ * finding when the language follows the locale, since the labels are English of themselves.
+ */
+std::vector<Finding> checkConfiguration(const QString &file, const QString &kind, const QByteArray &text);

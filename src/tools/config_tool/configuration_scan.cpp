@@ -1,0 +1,147 @@
+#include "configuration_scan.h"
+
+#include "config.h"
+
+#include <QDomDocument>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Kind = Statement::Kind;
+
+/* Cuts "cfg" text into pieces, and counts lines. */
+class PieceReader
+{
+public:
+    struct Piece
+    {
+        QString text; // without the blanks around it
+        int line; // where the text begins or, when it is empty, the stop stands
+        std::optional<char> stop; // empty at the end of the file
+    };
+
+    explicit PieceReader(const QByteArray &bytes)
+        : rest(bytes)
+    {
+    }
+
+    /* The text up to one of the stops, which is passed, or to the end of the file. */
+    Piece takeTo(QByteArrayView stops)
+    {
+        const auto *const end = std::ranges::find_first_of(rest, stops);
+        const QString bytes = QString::fromLatin1(rest.first(end - rest.begin()));
+        const QString text = bytes.trimmed();
+        const qsizetype blanks = text.isEmpty() ? bytes.size() : bytes.indexOf(text.front());
+        Piece piece{text, line + lineEnds(bytes.first(blanks)), {}};
+        line += lineEnds(bytes);
+        rest = rest.sliced(bytes.size());
+        if (!rest.empty()) {
+            piece.stop = rest.front();
+            rest = rest.sliced(1);
+        }
+        return piece;
+    }
+
+    int currentLine() const { return line; }
+
+private:
+    static int lineEnds(QStringView text) { return static_cast<int>(text.count(u'\n')); }
+
+    QByteArrayView rest;
+    int line = 1;
+};
+
+QString xmlFault(const QString &reason)
+{
+    return "this is no well-formed XML, so nothing in it is read: "_L1 + reason;
+}
+
+} // namespace
+
+Scan scanCfg(const QByteArray &text)
+{
+    Scan scan;
+    const auto add = [&scan](Statement statement) { scan.statements.push_back(std::move(statement)); };
+    const auto addText = [&add](Kind kind, const PieceReader::Piece &piece) {
+        if (!piece.text.isEmpty())
+            add({kind, piece.line, piece.text});
+    };
+
+    PieceReader reader(text);
+    for (int depth = 0;;) {
+        const PieceReader::Piece head = reader.takeTo(":=}");
+        if (head.stop == ':') {
+            const PieceReader::Piece skipped = reader.takeTo("{");
+            add({Kind::sectionBegins, head.line, head.text, {}, skipped.stop.has_value()});
+            if (++depth > libconfig::Config::maximumNesting)
+                return scan;
+            addText(Kind::skippedText, skipped);
+        } else if (head.stop == '=') {
+            PieceReader::Piece value = reader.takeTo(";");
+            add({Kind::setting, head.line, head.text, value.text.remove(u'"'), value.stop.has_value()});
+        } else if (head.stop == '}') {
+            addText(Kind::leftoverText, head);
+            add({Kind::sectionEnds, reader.currentLine()});
+            addText(Kind::skippedText, reader.takeTo(";"));
+            if (--depth < 0)
+                return scan;
+        } else {
+            addText(Kind::leftoverText, head);
+            return scan;
+        }
+    }
+}
+
+Scan scanXml(const QByteArray &text)
+{
+    Scan scan;
+    // A tag begins where the token before it ends; only what stands before the root element is no token.
+    int line = 1 + static_cast<int>(text.first(std::max(text.indexOf('<'), qsizetype{0})).count('\n'));
+
+    QXmlStreamReader reader(text);
+    reader.setNamespaceProcessing(false);
+    for (int depth = 0; !reader.atEnd(); line = std::max(line, static_cast<int>(reader.lineNumber()))) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            scan.statements.push_back({Kind::sectionBegins, line, reader.qualifiedName().toString()});
+            for (const QXmlStreamAttribute &attribute : reader.attributes())
+                scan.statements.push_back({Kind::setting, line, attribute.qualifiedName().toString(),
+                                           attribute.value().toString()});
+            if (++depth > libconfig::Config::maximumNesting) {
+                scan.fault = u"sections nest deeper than %1, so nothing in the file is read"_s.arg(
+                    libconfig::Config::maximumNesting);
+                scan.faultLine = line;
+                return scan;
+            }
+            break;
+        case QXmlStreamReader::EndElement:
+            scan.statements.push_back({Kind::sectionEnds, line});
+            --depth;
+            break;
+        case QXmlStreamReader::Characters:
+            if (!reader.isWhitespace())
+                scan.statements.push_back({Kind::leftoverText, line, reader.text().trimmed().toString()});
+            break;
+        default:
+            break;
+        }
+    }
+
+    QDomDocument document;
+    QString reason;
+    if (document.setContent(text, &reason, &scan.faultLine))
+        scan.beginsWithRoot = document.firstChild().isElement();
+    else
+        scan.fault = xmlFault(reason);
+    return scan;
+}
+
+Scan scanConfiguration(const QByteArray &text, const QString &kind)
+{
+    return kind == "xml"_L1 ? scanXml(text) : scanCfg(text);
+}

@@ -1,0 +1,415 @@
+#include "program_run.h"
+#include "temporary_home.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#include <memory>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString configTool = QStringLiteral(TAVOLUX_CONFIG);
+
+const QByteArray configurationText = "tavolux : { doc : { paperWidth = 42; style = \"\"; }; };\n";
+
+} // namespace
+
+class ConfigToolTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    ProgramResult run(const QStringList &arguments, QMap<QString, QString> environment = {}) const
+    {
+        environment.insert(u"HOME"_s, home->path());
+        return runProgram(configTool, arguments, environment);
+    }
+
+    QString userFile() const { return home->filePath(u".tavolux/conf/tavolux.conf"_s); }
+
+private Q_SLOTS:
+    void init() { home = std::make_unique<TemporaryHome>(); }
+
+    void help_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("long") << u"--help"_s;
+        QTest::newRow("short") << u"-h"_s;
+    }
+    void help()
+    {
+        QFETCH(QString, option);
+        const ProgramResult result = run({option});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardError, "");
+        for (const char *text :
+             {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "init", "edit", "--file <FILE>",
+              "--type <cfg|xml>", "--columns <32|40|42|48>", "--help", "--version"})
+            QVERIFY2(result.standardOutput.contains(text), text);
+    }
+
+    void version()
+    {
+        const ProgramResult result = run({u"--version"_s});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardOutput, "tavolux-config " TAVOLUX_VERSION "\n");
+        QCOMPARE(result.standardError, "");
+    }
+
+    void wrongUsage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("message");
+
+        QTest::newRow("no command") << QStringList() << QByteArray("a command is missing");
+        QTest::newRow("misspelt command")
+            << QStringList{u"chekc"_s}
+            << QByteArray("there is no command \"chekc\"; did you mean \"check\"?");
+        QTest::newRow("unknown command")
+            << QStringList{u"frobnicate"_s} << QByteArray("there is no command \"frobnicate\"");
+        QTest::newRow("get without a key") << QStringList{u"get"_s} << QByteArray("get needs KEY");
+        QTest::newRow("write without a file") << QStringList{u"write"_s} << QByteArray("write needs OUT");
+        QTest::newRow("write to an empty name")
+            << QStringList{u"write"_s, QString()} << QByteArray("the name of the file to write is empty");
+        QTest::newRow("too many words")
+            << QStringList{u"tree"_s, u"x"_s} << QByteArray("tree does not take \"x\"");
+        QTest::newRow("unknown option")
+            << QStringList{u"--fil"_s, u"tree"_s} << QByteArray("Unknown option 'fil'.");
+        QTest::newRow("unknown type") << QStringList{u"--type"_s, u"ini"_s, u"tree"_s}
+                                      << QByteArray("the type \"ini\" is neither cfg nor xml");
+        QTest::newRow("columns where they mean nothing")
+            << QStringList{u"check"_s, u"--columns"_s, u"42"_s} << QByteArray("--columns is for init");
+        QTest::newRow("columns of no paper") << QStringList{u"init"_s, u"--columns"_s, u"41"_s}
+                                             << QByteArray("\"41\" columns are none of 32|40|42|48");
+        QTest::newRow("columns that are no number") << QStringList{u"init"_s, u"--columns"_s, u"wide"_s}
+                                                    << QByteArray("\"wide\" columns are none of 32|40|42|48");
+        QTest::newRow("init of the other kind") << QStringList{u"init"_s, u"--type"_s, u"xml"_s}
+                                                << QByteArray("a starter configuration is of the kind cfg");
+    }
+    void wrongUsage()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, message);
+        const ProgramResult result = run(arguments);
+        QCOMPARE(result.exitStatus, 2);
+        QCOMPARE(result.standardOutput, "");
+        QCOMPARE(result.standardError, "tavolux-config: " + message + "\nTry \"tavolux-config --help\".\n");
+        QVERIFY(!QFile::exists(userFile()));
+    }
+
+    void get_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QByteArray>("value");
+
+        const QString cfg = u"cfg"_s;
+        QTest::newRow("a value") << configurationText << cfg << u"tavolux.doc.paperWidth"_s
+                                 << QByteArray("42");
+        QTest::newRow("an empty value") << configurationText << cfg << u"tavolux.doc.style"_s << QByteArray();
+        QTest::newRow("a missing key")
+            << configurationText << cfg << u"tavolux.doc.paperRows"_s << QByteArray();
+        QTest::newRow("an empty key") << configurationText << cfg << QString() << QByteArray();
+        QTest::newRow("an empty file") << QByteArray() << cfg << u"tavolux.doc.style"_s << QByteArray();
+        QTest::newRow("Latin-1 comes out in the terminal's encoding")
+            << QByteArray("s : { k = \xE4; };") << cfg << u"s.k"_s << QByteArray("\xC3\xA4");
+        QTest::newRow("xml") << QByteArray("<s k='v'/>") << u"xml"_s << u"s.k"_s << QByteArray("v");
+        QTest::newRow("xml, beyond Latin-1")
+            << QByteArray("<s k='\xE2\x82\xAC'/>") << u"xml"_s << u"s.k"_s << QByteArray("?");
+    }
+    void get()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, kind);
+        QFETCH(QString, key);
+        QFETCH(QByteArray, value);
+        const QString file = home->writeFile(u"some.conf"_s, text);
+        const ProgramResult result = run({u"--file"_s, file, u"--type"_s, kind, u"get"_s, key});
+        QCOMPARE(result.standardOutput, value + '\n');
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(result.exitStatus, value.isEmpty() ? 1 : 0);
+    }
+
+    void usersOwnConfigurationIsTheDefault()
+    {
+        home->writeConfiguration(configurationText);
+        QCOMPARE(run({u"get"_s, u"tavolux.doc.paperWidth"_s}).standardOutput, "42\n");
+    }
+
+    void tree()
+    {
+        const QString file = home->writeFile(u"some.conf"_s, configurationText);
+        const ProgramResult result = run({u"tree"_s, u"--file"_s, file});
+        QCOMPARE(result.standardOutput,
+                 "Tree \n" + file.toLatin1() + "\ntavolux\ndoc\npaperWidth = 42\nstyle = \n");
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(result.exitStatus, 0);
+    }
+
+    void write_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QByteArray>("written");
+
+        QTest::newRow("cfg") << u"write"_s
+                             << QByteArray("tavolux: \n{\n    doc: \n    {\n        paperWidth = \"42\";\n   "
+                                           "     style = \"\";\n    };\n\n};\n\n");
+        QTest::newRow("xml") << u"write-xml"_s
+                             << QByteArray("\n<tavolux>\n\n    <doc\n        paperWidth = \"42\"\n        "
+                                           "style = \"\">\n    </doc>\n</tavolux>\n");
+    }
+    void write()
+    {
+        QFETCH(QString, command);
+        home->writeConfiguration(configurationText);
+        const QString out = home->filePath(u"out"_s);
+        const ProgramResult result = run({command, out});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardOutput, "");
+        QCOMPARE(result.standardError, "");
+        QTEST(fileBytes(out), "written");
+        QCOMPARE(fileBytes(userFile()), configurationText);
+
+        for (const QString &unwritable : {home->filePath(u"nowhere/out"_s), u"/dev/full"_s, home->path()}) {
+            const ProgramResult failed = run({command, unwritable});
+            QCOMPARE(failed.exitStatus, 1);
+            QCOMPARE(failed.standardOutput, "");
+            QCOMPARE(failed.standardError, "tavolux-config: cannot write " + unwritable.toLatin1() + "\n");
+        }
+    }
+
+    void xmlThatIsNotWellFormed_data()
+    {
+        QTest::addColumn<QStringList>("command");
+
+        QTest::newRow("get") << QStringList{u"get"_s, u"tavolux.doc.paperWidth"_s};
+        QTest::newRow("tree") << QStringList{u"tree"_s};
+        QTest::newRow("write") << QStringList{u"write"_s, u"OUT"_s};
+        QTest::newRow("write-xml") << QStringList{u"write-xml"_s, u"OUT"_s};
+    }
+    void unreadable_data()
+    {
+        xmlThatIsNotWellFormed_data();
+        QTest::newRow("check") << QStringList{u"check"_s};
+    }
+    void unreadable()
+    {
+        QFETCH(QStringList, command);
+        const QString out = home->filePath(u"out"_s);
+        command.replaceInStrings(u"OUT"_s, out);
+        const auto verify = [&](const QStringList &options, const QString &message) {
+            const ProgramResult result = run(options + command);
+            QCOMPARE(result.exitStatus, 2);
+            QCOMPARE(result.standardOutput, "");
+            QCOMPARE(result.standardError, "tavolux-config: cannot read " + message.toLatin1() + '\n');
+            QVERIFY(!QFile::exists(out));
+        };
+
+        verify({}, userFile() + ": No such file or directory"_L1);
+        verify({u"--file"_s, home->path()}, home->path() + ": it is no regular file"_L1);
+        const QString pipe = home->filePath(u"pipe"_s); // reading it would wait for a writer
+        QCOMPARE(::mkfifo(pipe.toLatin1().constData(), 0600), 0);
+        verify({u"--file"_s, pipe}, pipe + ": it is no regular file"_L1);
+    }
+
+    // To a check that is a finding.
+    void xmlThatIsNotWellFormed()
+    {
+        QFETCH(QStringList, command);
+        const QString out = home->filePath(u"out"_s);
+        command.replaceInStrings(u"OUT"_s, out);
+        const QString file = home->writeFile(u"some.xml"_s, "<s>\n<t>\n</s>");
+        const ProgramResult result = run(QStringList{u"--type"_s, u"xml"_s, u"--file"_s, file} + command);
+        QCOMPARE(result.exitStatus, 2);
+        QCOMPARE(result.standardOutput, "");
+        QVERIFY(
+            result.standardError.startsWith("tavolux-config: cannot read " + file.toLatin1() + ", line 3: "));
+        QVERIFY(!QFile::exists(out));
+    }
+
+    void check()
+    {
+        const QString file =
+            home->writeFile(u"some.conf"_s, "tavolux : {\ndoc : { paperWidth = wide; }; };\n");
+        ProgramResult result = run({u"check"_s, u"--file"_s, file});
+        QCOMPARE(result.exitStatus, 1);
+        QCOMPARE(result.standardOutput,
+                 file.toLatin1()
+                     + ":2: \"paperWidth\" is \"wide\", no usable whole number, so it counts as 0\n");
+        QCOMPARE(result.standardError, "");
+
+        const QString empty = home->writeFile(u"empty.conf"_s, "");
+        result = run({u"check"_s, u"--file"_s, empty});
+        QCOMPARE(result.exitStatus, 1);
+        QCOMPARE(result.standardOutput,
+                 empty.toLatin1()
+                     + ": there is no section \"tavolux\" with settings in it, so nothing is found\n");
+
+        home->writeConfiguration(configurationText);
+        result = run({u"check"_s});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardOutput, "");
+        QCOMPARE(result.standardError, "");
+    }
+
+    void checkOfTheTranslation_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("basedir");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("missing");
+
+        // The folder DIR holds tavolux_it.qm and nothing else.
+        QTest::newRow("none wanted") << u"it_IT.UTF-8"_s << QString() << QString() << QString();
+        QTest::newRow("by locale, found by its language")
+            << u"it_IT.UTF-8"_s << u"DIR"_s << u"/"_s << QString();
+        QTest::newRow("by locale, missing")
+            << u"de_DE.UTF-8"_s << u"DIR"_s << u"/"_s << u"DIR/tavolux_de_DE"_s;
+        QTest::newRow("by locale, English needs none") << u"en_GB.UTF-8"_s << u"DIR"_s << u"/"_s << QString();
+        QTest::newRow("by locale, nor does the neutral one") << u"C"_s << u"DIR"_s << u"/"_s << QString();
+        QTest::newRow("by name") << u"C"_s << u"DIR"_s << u"/tavolux_it.qm"_s << QString();
+        QTest::newRow("by name, without the suffix") << u"C"_s << u"DIR"_s << u"/tavolux_it"_s << QString();
+        QTest::newRow("by name, missing") << u"C"_s << u"DIR"_s << u"/xx.qm"_s << u"DIR/xx.qm"_s;
+        QTest::newRow("by name, without a slash")
+            << u"C"_s << u"DIR"_s << u"tavolux_it.qm"_s << u"DIRtavolux_it.qm"_s;
+        QTest::newRow("folder alone") << u"C"_s << u"DIR"_s << QString() << u"DIR"_s;
+        QTest::newRow("file alone") << u"C"_s << QString() << u"DIR/tavolux_it.qm"_s << QString();
+    }
+    void checkOfTheTranslation()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, basedir);
+        QFETCH(QString, file);
+        QFETCH(QString, missing);
+
+        // A catalogue of one message: the magic number, the table of hashes and the messages.
+        const QByteArray catalogue = QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd"
+                                                         "42"
+                                                         "00000008"
+                                                         "0123456700000000"
+                                                         "69"
+                                                         "00000001"
+                                                         "01");
+        const QString folder = QFileInfo(home->writeFile(u"lang/tavolux_it.qm"_s, catalogue)).path();
+        for (QString *text : {&basedir, &file, &missing})
+            text->replace("DIR"_L1, folder);
+        home->writeConfiguration("tavolux : { language : {\nbasedir = \"" + basedir.toLatin1()
+                                 + "\";\nfile = \"" + file.toLatin1() + "\"; }; };");
+
+        const ProgramResult result = run({u"check"_s}, {{u"LC_ALL"_s, locale}});
+        QCOMPARE(result.standardOutput,
+                 missing.isEmpty() ? QByteArray()
+                                   : userFile().toLatin1() + ":3: the translation \"" + missing.toLatin1()
+                         + "\" is not found\n");
+        QCOMPARE(result.exitStatus, missing.isEmpty() ? 0 : 1);
+    }
+
+    void begin()
+    {
+        ProgramResult result = run({u"init"_s});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardOutput, userFile().toLatin1() + '\n');
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(run({u"get"_s, u"tavolux.receiptdoc.paperWidth"_s}).standardOutput, "42\n");
+        QCOMPARE(run({u"check"_s}).exitStatus, 0);
+
+        // What a person has changed since stays.
+        home->writeConfiguration(configurationText);
+        result = run({u"init"_s});
+        QCOMPARE(result.exitStatus, 1);
+        QCOMPARE(result.standardOutput, "");
+        QCOMPARE(result.standardError,
+                 "tavolux-config: " + userFile().toLatin1() + " exists already and stays as it is\n");
+        QCOMPARE(fileBytes(userFile()), configurationText);
+    }
+
+    void beginElsewhere()
+    {
+        const QString file = home->filePath(u"new/folders/some.conf"_s);
+        QCOMPARE(run({u"--file"_s, file, u"init"_s, u"--columns"_s, u"32"_s}).exitStatus, 0);
+        QCOMPARE(run({u"--file"_s, file, u"get"_s, u"tavolux.solddoc.paperWidth"_s}).standardOutput, "32\n");
+        QVERIFY(!QFile::exists(userFile()));
+    }
+
+    void beginDoesNotFollowADanglingLink()
+    {
+        const QString link = home->filePath(u"link"_s);
+        QVERIFY(QFile::link(home->filePath(u"target"_s), link));
+        QCOMPARE(run({u"--file"_s, link, u"init"_s}).exitStatus, 1);
+        QVERIFY(!QFile::exists(home->filePath(u"target"_s)));
+    }
+
+    void beginWhereNothingCanBe()
+    {
+        const QString file = home->writeFile(u"file"_s, "") + "/some.conf"_L1;
+        const ProgramResult result = run({u"--file"_s, file, u"init"_s});
+        QCOMPARE(result.exitStatus, 2);
+        QCOMPARE(result.standardOutput, "");
+        QCOMPARE(result.standardError,
+                 "tavolux-config: cannot write " + file.toLatin1() + ": Not a directory\n");
+    }
+
+    void edit()
+    {
+        // Stands in for the editor: it says who it is and what it was given.
+        const QByteArray editor = "#!/bin/sh\necho \"$0 $*\"\nexit 7\n";
+        const auto install = [&](const QString &name) {
+            QString file = home->writeFile(name, editor);
+            if (!QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+                qFatal("cannot make %s a program", qPrintable(file));
+            return file;
+        };
+        const QString tool = home->filePath(u"bin/tavolux-config"_s);
+        QVERIFY(QDir().mkpath(QFileInfo(tool).path()));
+        QVERIFY(QFile::copy(configTool, tool));
+        const QMap<QString, QString> environment{
+            {u"HOME"_s, home->path()}, {u"PATH"_s, home->filePath(u"path"_s) + ":/usr/bin:/bin"_L1}};
+
+        ProgramResult result = runProgram(tool, {u"edit"_s}, environment);
+        QCOMPARE(result.exitStatus, 2);
+        QCOMPARE(result.standardOutput, "");
+        QCOMPARE(result.standardError,
+                 "tavolux-config: the editor, tavolux-config-editor, is not installed\n");
+
+        const QString inPath = install(u"path/tavolux-config-editor"_s);
+        result = runProgram(tool, {u"edit"_s}, environment);
+        QCOMPARE(result.standardOutput,
+                 inPath.toLatin1() + " --file " + userFile().toLatin1() + " --type cfg\n");
+        QCOMPARE(result.exitStatus, 7);
+
+        const QString beside = install(u"bin/tavolux-config-editor"_s);
+        result =
+            runProgram(tool, {u"--file"_s, u"some.xml"_s, u"--type"_s, u"xml"_s, u"edit"_s}, environment);
+        QCOMPARE(result.standardOutput, beside.toLatin1() + " --file some.xml --type xml\n");
+    }
+
+    void outputThatCannotBeWritten()
+    {
+        home->writeConfiguration(configurationText);
+        const ProgramResult result = runProgram(
+            u"/bin/sh"_s, {u"-c"_s, u"\"$0\" tree > /dev/full"_s, configTool}, {{u"HOME"_s, home->path()}});
+        QCOMPARE(result.exitStatus, 2);
+        QCOMPARE(result.standardError, "tavolux-config: cannot write the output\n");
+    }
+
+    void needsNoDisplayLibrary()
+    {
+        const ProgramResult result = runProgram(u"ldd"_s, {configTool});
+        QVERIFY(result.standardOutput.contains("libQt6Core."));
+        for (const char *library : {"libQt6Gui", "libQt6Widgets", "libX11", "libxcb", "libGL", "libEGL"})
+            QVERIFY2(!result.standardOutput.contains(library), library);
+    }
+
+private:
+    std::unique_ptr<TemporaryHome> home;
+};
+
+QTEST_GUILESS_MAIN(ConfigToolTest)
+#include "config_tool_test.moc"

@@ -1,0 +1,364 @@
+#include "configuration_check.h"
+
+#include "company_printer_driver.h"
+#include "temporary_home.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/* The printer, with a profile of one's own. */
+class ProfiledPrinter : public CompanyPrinterDriver
+{
+public:
+    explicit ProfiledPrinter(const QString &output)
+        : CompanyPrinterDriver(output, false)
+    {
+    }
+
+    void setProfile(const DocumentProfile &wanted) { profile = wanted; }
+};
+
+QByteArray tavolux(const QByteArray &sections)
+{
+    return "tavolux : {\n" + sections + "\n};\n";
+}
+
+} // namespace
+
+class ConfigurationCheckTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QStringList check(const QByteArray &text, const QString &kind = u"cfg"_s) const
+    {
+        QStringList findings;
+        for (const auto &[line, finding] :
+             checkConfiguration(home.writeFile(u"tavolux.conf"_s, text), kind, text))
+            findings.append(QString::number(line) + ": "_L1 + finding);
+        return findings;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { home.enter(); }
+
+    void cfg_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QStringList>("findings");
+
+        const QString nothingSet =
+            u"0: there is no section \"tavolux\" with settings in it, so nothing is found"_s;
+
+        QTest::newRow("nothing to say") << tavolux("language : { basedir = \"\"; file = \"\"; };\n"
+                                                   "doc : { paperWidth = 42; paperRows = 0; topMargin = 2; "
+                                                   "style = x; printNote = true; printLogo = false; };\n"
+                                                   "fiscaldoc : { descriptionWidth = 20; };")
+                                        << QStringList();
+        QTest::newRow("empty file") << QByteArray() << QStringList{nothingSet};
+        QTest::newRow("section without settings") << QByteArray("tavolux : { };") << QStringList{nothingSet};
+        QTest::newRow("empty section before the first one counts for nothing")
+            << QByteArray("x : { };\ntavolux : { doc : { paperWidth = 42; }; };") << QStringList();
+
+        // Names.
+        QTest::newRow("setting that nobody knows")
+            << tavolux("doc : {\n paperWith = 42; };")
+            << QStringList{
+                   u"3: \"paperWith\" is no setting of \"tavolux.doc\" that is ever read; did you mean \"paperWidth\"?"_s};
+        QTest::newRow("setting that is like no other")
+            << tavolux("doc : { colour = red; };")
+            << QStringList{u"2: \"colour\" is no setting of \"tavolux.doc\" that is ever read"_s};
+        QTest::newRow("capitals count")
+            << tavolux("doc : { PrintNote = true; };")
+            << QStringList{
+                   u"2: \"PrintNote\" is no setting of \"tavolux.doc\" that is ever read; did you mean \"printNote\"?"_s};
+        QTest::newRow("setting of the fiscal profile in another")
+            << tavolux("doc : { descriptionWidth = 20; };")
+            << QStringList{u"2: \"descriptionWidth\" is no setting of \"tavolux.doc\" that is ever read"_s};
+        QTest::newRow("setting beside the sections")
+            << tavolux("paperWidth = 42;")
+            << QStringList{u"2: \"paperWidth\" is no setting of \"tavolux\" that is ever read"_s};
+        QTest::newRow("setting without a name")
+            << tavolux("doc : { = 42; };")
+            << QStringList{u"2: \"\" is no setting of \"tavolux.doc\" that is ever read"_s};
+        QTest::newRow("language key that nobody knows")
+            << tavolux("language : { basdir = /x; };")
+            << QStringList{
+                   u"2: \"basdir\" is no setting of \"tavolux.language\" that is ever read; did you mean \"basedir\"?"_s};
+        QTest::newRow("section that nobody knows; what is in it is not looked at")
+            << tavolux("recieptdoc : { x = y; };")
+            << QStringList{
+                   u"2: \"recieptdoc\" is no section of \"tavolux\" that is ever read; did you mean \"receiptdoc\"?"_s};
+        QTest::newRow("section in a section")
+            << tavolux("doc : {\n solddoc : { paperWidth = x; }; };")
+            << QStringList{u"3: \"solddoc\" is no section of \"tavolux.doc\" that is ever read"_s};
+        QTest::newRow("section without a name")
+            << tavolux(": { x = y; };") << QStringList{u"2: a section without a name is never read"_s};
+
+        // Sections that are not reached.
+        QTest::newRow("first section is another")
+            << QByteArray("taverna : { doc : { x = y; }; };")
+            << QStringList{
+                   u"1: the first section is \"taverna\", not \"tavolux\", so nothing in the file is found"_s};
+        QTest::newRow("sections behind the first")
+            << QByteArray(
+                   "tavolux : { doc : { paperWidth = 42; }; };\ntavolux : { x = y; };\nother : { x = y; };")
+            << QStringList{u"2: the section \"tavolux\" is never read: only the first one, \"tavolux\", is"_s,
+                           u"3: the section \"other\" is never read: only the first one, \"tavolux\", is"_s};
+        QTest::newRow("the right section comes second")
+            << QByteArray("x : { y = z; };\ntavolux : { x = y; };")
+            << QStringList{
+                   u"1: the first section is \"x\", not \"tavolux\", so nothing in the file is found"_s,
+                   u"2: the section \"tavolux\" is never read: only the first one, \"x\", is"_s};
+        QTest::newRow("settings outside of any section")
+            << QByteArray("a = 1;\ntavolux : { doc : { paperWidth = 42; }; };\nb = 2;")
+            << QStringList{u"1: \"a\" is set outside of any section, where it is never found"_s,
+                           u"3: \"b\" is set outside of any section, where it is never found"_s};
+
+        // Values.
+        QTest::newRow("switches are exact")
+            << tavolux(
+                   "doc : {\nprintLogo = True;\nprintNote = 1;\nprintDate = \" true \";\nprintTime = ;\n};")
+            << QStringList{u"3: \"printLogo\" is \"True\", neither \"true\" nor \"false\", so it is off"_s,
+                           u"4: \"printNote\" is \"1\", neither \"true\" nor \"false\", so it is off"_s,
+                           u"5: \"printDate\" is \" true \", neither \"true\" nor \"false\", so it is off"_s,
+                           u"6: \"printTime\" is \"\", neither \"true\" nor \"false\", so it is off"_s};
+        QTest::newRow("numbers")
+            << tavolux("doc : {\npaperWidth = wide;\nquantityFieldWidth = 3.5;\npriceFieldWidth = "
+                       "99999999999;\npaperRows = ;\ntopMargin = -1;\n};")
+            << QStringList{
+                   u"3: \"paperWidth\" is \"wide\", no usable whole number, so it counts as 0"_s,
+                   u"4: \"quantityFieldWidth\" is \"3.5\", no usable whole number, so it counts as 0"_s,
+                   u"5: \"priceFieldWidth\" is \"99999999999\", no usable whole number, so it counts as 0"_s,
+                   u"6: \"paperRows\" is \"\", no usable whole number, so it counts as 0"_s,
+                   u"7: \"topMargin\" is \"-1\", a negative number"_s};
+        QTest::newRow("widest paper") << tavolux("doc : { paperWidth = 100000; };") << QStringList();
+        QTest::newRow("wider") << tavolux("doc : { paperWidth = 100001; };")
+                               << QStringList{
+                                      u"2: \"paperWidth\" is \"100001\", more than any paper holds"_s};
+        QTest::newRow("signs and blanks that numbers may have")
+            << tavolux("doc : { paperWidth = \" +42 \"; };") << QStringList();
+        QTest::newRow("descriptionWidth is a number")
+            << tavolux("fiscaldoc : { descriptionWidth = x; };")
+            << QStringList{u"2: \"descriptionWidth\" is \"x\", no usable whole number, so it counts as 0"_s};
+        QTest::newRow("umlaut in Latin-1") << tavolux("doc : { style = sch\xF6n; };") << QStringList();
+        QTest::newRow("umlaut in UTF-8")
+            << tavolux("doc : { style = sch\xC3\xB6n; };")
+            << QStringList{u"2: this is UTF-8, but the file is read as Latin-1: \"schÃ¶n\""_s};
+        QTest::newRow("file with a byte order mark")
+            << "\xEF\xBB\xBF" + tavolux("doc : { paperWidth = 42; };")
+            << QStringList{
+                   u"1: this is UTF-8, but the file is read as Latin-1: \"ï»¿tavolux\""_s,
+                   u"1: the first section is \"ï»¿tavolux\", not \"tavolux\", so nothing in the file is found"_s};
+
+        // Given twice.
+        QTest::newRow("setting given twice")
+            << tavolux("doc : {\nprintNote = true;\nprintNote = false;\n};")
+            << QStringList{u"4: \"printNote\" is given twice, first in line 3; the last one counts"_s};
+        QTest::newRow("section given twice")
+            << tavolux("doc : { printNote = true; };\ndoc : { printNote = false; };")
+            << QStringList{
+                   u"3: the section \"tavolux.doc\" is given twice, first in line 2; of each setting the first that is not empty counts"_s};
+
+        // What is missing.
+        QTest::newRow("semicolon missing behind a value")
+            << tavolux("doc : {\npaperWidth = 42\nprintNote = true;\n};")
+            << QStringList{
+                   u"3: the value of \"paperWidth\" takes in \"42 printNote = true\"; is a semicolon missing?"_s};
+        QTest::newRow("semicolon missing before a section")
+            << QByteArray("tavolux : {\nlanguage : { file = x\n};\ndoc : { paperWidth = 42; }; };")
+            << QStringList{u"1: the section \"tavolux\" is not closed"_s,
+                           u"2: the value of \"file\" takes in \"x }\"; is a semicolon missing?"_s,
+                           u"4: \"doc\" is no section of \"tavolux.language\" that is ever read"_s};
+        QTest::newRow("value over two lines that holds no statement")
+            << tavolux("doc : { style = a\nb; };") << QStringList();
+        QTest::newRow("semicolon missing behind a brace")
+            << tavolux("doc : { printNote = true; }\nsolddoc : { paperWidth = 42; };")
+            << QStringList{
+                   u"3: \"solddoc : { paperWidth = 42\" is passed over; is a semicolon or a brace missing before it?"_s,
+                   u"4: a closing brace that closes no section ends the reading here"_s};
+        QTest::newRow("remark before a brace")
+            << QByteArray("tavolux : all of it { doc : the orders { paperWidth = 42; }; };") << QStringList();
+        QTest::newRow("opening brace missing")
+            << tavolux("doc :\npaperWidth = 42;\nsolddoc : { };")
+            << QStringList{
+                   u"3: \"paperWidth = 42; solddoc :\" is passed over; is a semicolon or a brace missing before it?"_s};
+        QTest::newRow("opening brace missing at the end")
+            << QByteArray("tavolux : { doc : { paperWidth = 42; }; };\nx : y")
+            << QStringList{u"2: no opening brace follows the section \"x\""_s};
+        QTest::newRow("closing brace missing") << QByteArray("tavolux : {\ndoc : { paperWidth = 42;\n};\n")
+                                               << QStringList{u"1: the section \"tavolux\" is not closed"_s};
+        QTest::newRow("closing brace too many")
+            << QByteArray("tavolux : { doc : { paperWidth = 42; }; };\n};\nx = y;")
+            << QStringList{u"2: a closing brace that closes no section ends the reading here"_s};
+        QTest::newRow("file ends in a value")
+            << QByteArray("tavolux : { doc : {\npaperWidth = 42")
+            << QStringList{
+                   u"1: the section \"tavolux\" is not closed"_s, u"1: the section \"doc\" is not closed"_s,
+                   u"2: the value of \"paperWidth\" runs to the end of the file; is a semicolon missing?"_s};
+        QTest::newRow("last semicolon missing does no harm")
+            << QByteArray("tavolux : { doc : { paperWidth = 42; }; }\n") << QStringList();
+        QTest::newRow("text behind a setting")
+            << tavolux("doc : {\nprintNote = true; yes;\nprintLogo = true;\n};")
+            << QStringList{u"3: \"yes; printLogo\" is taken for one name; is something missing in it?"_s};
+        QTest::newRow("what looks like a comment")
+            << QByteArray("# orders\ntavolux : { doc : { paperWidth = 42; }; };")
+            << QStringList{
+                   u"1: \"# orders tavolux\" is taken for one name; is something missing in it?"_s,
+                   u"1: the first section is \"# orders tavolux\", not \"tavolux\", so nothing in the file is found"_s};
+        QTest::newRow("colon missing")
+            << tavolux("doc {\npaperWidth = 42;\n};")
+            << QStringList{u"2: \"doc { paperWidth\" is taken for one name; is something missing in it?"_s,
+                           u"5: a closing brace that closes no section ends the reading here"_s};
+        QTest::newRow("text before a closing brace")
+            << tavolux("doc : { printNote = true; x };")
+            << QStringList{u"2: \"x\" belongs to no setting and is passed over"_s};
+        QTest::newRow("text at the end") << tavolux("doc : { printNote = true; };")
+                + "x" << QStringList{u"4: \"x\" belongs to no setting and is passed over"_s};
+        QTest::newRow("long text is cut") << tavolux("doc : { printNote = true; };") + QByteArray(51, 'x')
+                                          << QStringList{"4: \""_L1 + QString(50, u'x')
+                                                         + u"…\" belongs to no setting and is passed over"_s};
+    }
+    void cfg()
+    {
+        QFETCH(QByteArray, text);
+        QTEST(check(text), "findings");
+    }
+
+    void cfgNesting()
+    {
+        const auto nested = [](int depth) {
+            return "tavolux : {" + QByteArray("s : {").repeated(depth - 1) + "\nk = v;"
+                + QByteArray("};").repeated(depth);
+        };
+        const QString unknown = u"1: \"s\" is no section of \"tavolux\" that is ever read"_s;
+        QCOMPARE(check(nested(256)), QStringList{unknown});
+        QCOMPARE(check(nested(257)),
+                 (QStringList{unknown, u"1: sections nest deeper than 256, so the reading ends here"_s}));
+    }
+
+    void xml_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QStringList>("findings");
+
+        QTest::newRow("nothing to say")
+            << QByteArray("<tavolux><doc printNote='true' style='{a=b}'/></tavolux>") << QStringList();
+        QTest::newRow("names and values, with the line of their tag")
+            << QByteArray("<tavolux>\n<doc\npaperWith='42'\nprintNote='yes'/></tavolux>")
+            << QStringList{
+                   u"2: \"paperWith\" is no setting of \"tavolux.doc\" that is ever read; did you mean \"paperWidth\"?"_s,
+                   u"2: \"printNote\" is \"yes\", neither \"true\" nor \"false\", so it is off"_s};
+        QTest::newRow("setting written as an element")
+            << QByteArray("<tavolux>\n<doc>\n<paperWidth>42</paperWidth></doc></tavolux>")
+            << QStringList{u"3: \"paperWidth\" is no section of \"tavolux.doc\" that is ever read"_s,
+                           u"3: \"42\" belongs to no setting and is passed over"_s};
+        QTest::newRow("another root")
+            << QByteArray("<conf><doc printNote='true'/></conf>")
+            << QStringList{
+                   u"1: the first section is \"conf\", not \"tavolux\", so nothing in the file is found"_s};
+        QTest::newRow("declaration")
+            << QByteArray("<?xml version='1.0'?>\n<tavolux><doc printNote='true'/></tavolux>")
+            << QStringList{
+                   u"1: the first node is not the root element but a declaration or a comment, so nothing in the file is found"_s};
+        QTest::newRow("comment")
+            << QByteArray("<!-- mine -->\n<tavolux><doc printNote='true'/></tavolux>")
+            << QStringList{
+                   u"1: the first node is not the root element but a declaration or a comment, so nothing in the file is found"_s};
+        QTest::newRow("beyond Latin-1")
+            << QByteArray("<tavolux>\n<doc style='\xE2\x82\xAC'/></tavolux>")
+            << QStringList{u"2: characters outside of Latin-1 are read as question marks: \"€\""_s};
+        QTest::newRow("Latin-1 in UTF-8 is well")
+            << QByteArray("<tavolux><doc style='\xC3\xB6'/></tavolux>") << QStringList();
+        QTest::newRow("no room")
+            << QByteArray("<tavolux>\n<doc paperWidth='3'/></tavolux>")
+            << QStringList{
+                   u"2: \"tavolux.doc\" leaves no room for descriptions: of 3 characters in a line the other columns take 3"_s};
+        QTest::newRow("too deep")
+            << QByteArray("<s>").repeated(257) + QByteArray("</s>").repeated(257)
+            << QStringList{u"1: sections nest deeper than 256, so nothing in the file is read"_s};
+    }
+    void xml()
+    {
+        QFETCH(QByteArray, text);
+        QTEST(check(text, u"xml"_s), "findings");
+    }
+
+    void xmlThatIsNotWellFormed()
+    {
+        const QStringList findings = check("<tavolux>\n<doc>\n</tavolux>", u"xml"_s);
+        QCOMPARE(findings.size(), 1);
+        QVERIFY2(findings.first().startsWith("3: this is no well-formed XML, so nothing in it is read: "_L1),
+                 qPrintable(findings.first()));
+    }
+
+    // The check knows what the tightest row of each profile leaves; the printer must agree, at every width.
+    void roomForDescriptions_data()
+    {
+        QTest::addColumn<QByteArray>("section");
+        QTest::addColumn<QStringList>("formats");
+
+        QTest::newRow("order") << QByteArray("doc") << QStringList{u"qd"_s};
+        QTest::newRow("prefiscal") << QByteArray("prefiscaldoc") << QStringList{u"qdpt"_s};
+        QTest::newRow("fiscal") << QByteArray("fiscaldoc") << QStringList();
+        QTest::newRow("receipt") << QByteArray("receiptdoc") << QStringList{u"qxdpt"_s, u"qdpt"_s};
+        QTest::newRow("invoice") << QByteArray("invoicedoc") << QStringList{u"qdpt"_s, u"qxdpt"_s};
+        QTest::newRow("delivery") << QByteArray("deliverydoc") << QStringList{u"qd"_s};
+        QTest::newRow("report") << QByteArray("reportdoc") << QStringList{u"date-amount-type"_s};
+        QTest::newRow("sold") << QByteArray("solddoc") << QStringList{u"qxdpt"_s};
+    }
+    void roomForDescriptions()
+    {
+        QFETCH(QByteArray, section);
+        QFETCH(QStringList, formats);
+        ProfiledPrinter printer(home.filePath(u"printed"_s));
+        DocumentProfile profile;
+        profile.quantityFieldWidth = 3;
+        profile.priceFieldWidth = 7;
+        profile.totalPriceFieldWidth = 8;
+        for (profile.paperWidth = 1; profile.paperWidth < 50; ++profile.paperWidth) {
+            printer.setProfile(profile);
+            bool room = true;
+            for (const QString &format : formats)
+                room = room && printer.descriptionRow({}, u"D"_s, {}, {}, u' ', format).contains(u'D');
+            const QStringList findings = check(tavolux(
+                section
+                + " : { quantityFieldWidth = 3; priceFieldWidth = 7; totalPriceFieldWidth = 8; paperWidth = "
+                + QByteArray::number(profile.paperWidth) + "; };"));
+            QCOMPARE(findings.size(), room ? 0 : 1);
+            if (!room)
+                QVERIFY2(findings.first().startsWith("2: \"tavolux."_L1 + QString::fromLatin1(section)
+                                                     + "\" leaves no room for descriptions: of "_L1),
+                         qPrintable(findings.first()));
+        }
+    }
+
+    void roomOnThePrintersOwnPaper()
+    {
+        const ProfiledPrinter printer(home.filePath(u"printed"_s));
+        QCOMPARE(printer.getPaperWidth(), 34U);
+        QCOMPARE(check(tavolux("doc : { quantityFieldWidth = 30; };")), QStringList());
+        QCOMPARE(
+            check(tavolux("doc : { quantityFieldWidth = 31; };")),
+            QStringList{
+                u"2: \"tavolux.doc\" leaves no room for descriptions: of 34 characters in a line the other columns take 34"_s});
+    }
+
+    // What the printing program sees of a section that is given twice.
+    void roomWithASectionGivenTwice()
+    {
+        const QStringList findings =
+            check(tavolux("doc : { quantityFieldWidth = 40; };\ndoc : { paperWidth = 50; };"));
+        QCOMPARE(findings.size(), 1);
+        QVERIFY(findings.first().contains("is given twice"_L1));
+    }
+
+private:
+    const TemporaryHome home;
+};
+
+QTEST_GUILESS_MAIN(ConfigurationCheckTest)
+#include "configuration_check_test.moc"
