@@ -11,6 +11,9 @@
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <csignal>
 
 using namespace Qt::StringLiterals;
@@ -25,15 +28,25 @@ void keepFailuresQuiet()
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 }
 
+// The next file opened takes the place of a standard stream that is closed: were it the output, messages
+// would go to the paper.
+void keepStandardStreamsOpen()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) < 0)
+            (void)open("/dev/null", O_RDWR);
+}
+
 } // namespace
 
 void compile(int argc, char *argv[])
 {
+    keepFailuresQuiet();
+    keepStandardStreamsOpen();
     if (argc != 3 && argc != 4) {
         printDiagnostic("Usage: " + QByteArray(argv[0]) + " input_file output_file");
         return;
     }
-    keepFailuresQuiet();
 
     QCoreApplication application(argc, argv); // takes the toolkit's own options out of argv
     const TXConfiguration &configuration = SyncSingleton<TXConfiguration>::instance();
