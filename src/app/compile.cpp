@@ -1,5 +1,6 @@
 #include "compile.h"
 
+#include "bounded_document.h"
 #include "company_printer_driver.h"
 #include "diagnostic.h"
 #include "sync_singleton.h"
@@ -8,7 +9,6 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTranslator>
-#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include <fcntl.h>
@@ -65,6 +65,7 @@ void compile(int argc, char *argv[])
     QXmlSimpleReader reader;
     reader.setContentHandler(&driver);
     QFile inputFile(QFile::decodeName(argv[1]));
-    QXmlInputSource inputSource(&inputFile);
-    reader.parse(inputSource);
+    BoundedDocument document(&inputFile);
+    reader.setDeclHandler(&document);
+    reader.parse(document);
 }
