@@ -4,6 +4,9 @@
 #include "sync_singleton.h"
 #include "tx_configuration.h"
 
+#include <cerrno>
+#include <cstring>
+
 // Unbuffered: the stream has a buffer of its own, and what could not be written must not be tried again.
 PrinterDriver::PrinterDriver(const QString &outputPath, bool append)
     : configuration(SyncSingleton<TXConfiguration>::instance())
@@ -38,10 +41,12 @@ void PrinterDriver::write(const QString &text)
     }
 }
 
+// The file knows no reason when the failed write was the rest of one that succeeded in part; the system does.
 void PrinterDriver::reportFailedOutput()
 {
+    const QByteArray reason = std::strerror(errno);
     printDiagnostic("Error in the method PrinterDriver::print( " + QFile::encodeName(outputFile.fileName())
-                    + " ): " + outputFile.errorString().toLocal8Bit());
+                    + " ): " + reason);
 }
 
 void PrinterDriver::reset() { }
