@@ -1,5 +1,7 @@
 #include "print_run.h"
 
+#include <QRandomGenerator>
+
 #include <linux/capability.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -93,6 +95,20 @@ QByteArray item(int quantity, const QByteArray &name)
 QByteArray row(int quantity, const QByteArray &name)
 {
     return QByteArray::number(quantity).rightJustified(3) + ' ' + name.leftJustified(14) + '\n';
+}
+
+QByteArray rowWithoutSettings()
+{
+    return "1 Pasta" + QByteArray(26, ' ') + '\n';
+}
+
+QByteArray noise(quint32 seed)
+{
+    QRandomGenerator generator(seed);
+    QByteArray bytes(4096, '\0');
+    for (char &byte : bytes)
+        byte = static_cast<char>(generator.bounded(256));
+    return bytes;
 }
 
 QByteArray longDocument()

@@ -38,6 +38,12 @@ QByteArray document(const QByteArray &markup);
 QByteArray item(int quantity, const QByteArray &name);
 QByteArray row(int quantity, const QByteArray &name);
 
+/* The row of item(1, "Pasta") without a configuration: no quantity column, and the device's 34 characters. */
+QByteArray rowWithoutSettings();
+
+/* 4 KB of bytes that depend on nothing but the seed. */
+QByteArray noise(quint32 seed);
+
 /* A document and its printout that pass through every buffer more than once. */
 QByteArray longDocument();
 QByteArray longPrintout();
