@@ -138,6 +138,18 @@ private Q_SLOTS:
         QTEST(run.printed(), "printed");
     }
 
+    // As on a failing disk: the file opens, and every read of it is an error.
+    void readingFails()
+    {
+        const PrintRun run;
+        QFile::remove(run.home.filePath(configurationName));
+        QVERIFY(QFile::link(u"/proc/self/mem"_s, run.home.filePath(configurationName)));
+        const ProgramResult result = run.run();
+        QCOMPARE(misbehaviour(result), QByteArray());
+        QCOMPARE(result.standardOutput, QByteArray());
+        QCOMPARE(run.printed(), rowWithoutSettings());
+    }
+
     void noiseSaysNothing()
     {
         const PrintRun run;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int million = 1'000'000;
+constexpr qsizetype million = 1'000'000;
 
 /* Tells whether a file was opened since, by whatever process. */
 class OpenWatch
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("printed");
         const QByteArray first = item(1, "Pasta");
         const QByteArray last = item(2, "Vino");
-        const auto nested = [](int levels) {
+        const auto nested = [](qsizetype levels) {
             return QByteArray("<a>").repeated(levels) + QByteArray("</a>").repeated(levels);
         };
 
@@ -256,7 +256,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("printed");
         const QByteArray first = item(1, "Pasta");
         const QByteArray last = item(2, "Vino");
-        const auto references = [](int count) { return QByteArray("&e;").repeated(count); };
+        const auto references = [](qsizetype count) { return QByteArray("&e;").repeated(count); };
         const QByteArray longest(4096, 'x');
 
         QTest::newRow("an entity or two")
