@@ -1,5 +1,6 @@
 #include "compile.h"
 
+#include "bounded_document.h"
 #include "company_printer_driver.h"
 #include "diagnostic.h"
 #include "sync_singleton.h"
@@ -8,8 +9,10 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTranslator>
-#include <QXmlInputSource>
 #include <QXmlSimpleReader>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <csignal>
 
@@ -25,15 +28,25 @@ void keepFailuresQuiet()
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
 }
 
+// The next file opened takes the place of a standard stream that is closed: were it the output, messages
+// would go to the paper.
+void keepStandardStreamsOpen()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) < 0)
+            (void)open("/dev/null", O_RDWR);
+}
+
 } // namespace
 
 void compile(int argc, char *argv[])
 {
+    keepFailuresQuiet();
+    keepStandardStreamsOpen();
     if (argc != 3 && argc != 4) {
         printDiagnostic("Usage: " + QByteArray(argv[0]) + " input_file output_file");
         return;
     }
-    keepFailuresQuiet();
 
     QCoreApplication application(argc, argv); // takes the toolkit's own options out of argv
     const TXConfiguration &configuration = SyncSingleton<TXConfiguration>::instance();
@@ -52,6 +65,7 @@ void compile(int argc, char *argv[])
     QXmlSimpleReader reader;
     reader.setContentHandler(&driver);
     QFile inputFile(QFile::decodeName(argv[1]));
-    QXmlInputSource inputSource(&inputFile);
-    reader.parse(inputSource);
+    BoundedDocument document(&inputFile);
+    reader.setDeclHandler(&document);
+    reader.parse(document);
 }

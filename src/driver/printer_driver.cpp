@@ -5,6 +5,8 @@
 #include "tx_configuration.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -61,10 +63,12 @@ void PrinterDriver::write(const QString &text)
     }
 }
 
+// The file knows no reason when the failed write was the rest of one that succeeded in part; the system does.
 void PrinterDriver::reportFailedOutput()
 {
+    const QByteArray reason = std::strerror(errno);
     printDiagnostic("Error in the method PrinterDriver::print( " + QFile::encodeName(outputFile.fileName())
-                    + " ): " + outputFile.errorString().toLocal8Bit());
+                    + " ): " + reason);
 }
 
 void PrinterDriver::reset() { }

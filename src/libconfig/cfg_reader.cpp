@@ -56,8 +56,10 @@ void Config::closeFile()
 
 // Straight from the buffer: a formatted stream's checks for every byte would be half the time of loading.
 int Config::nextByte()
-{
+try {
     return inputStream.rdbuf()->sbumpc();
+} catch (const std::ios_base::failure &) { // a file that cannot be read further ends there
+    return endOfFile;
 }
 
 bool Config::jump(char c)

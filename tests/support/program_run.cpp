@@ -3,7 +3,8 @@
 #include <QProcess>
 
 ProgramResult runProgram(const QString &program, const QStringList &arguments,
-                         const QMap<QString, QString> &environment, const QByteArray &standardInput)
+                         const QMap<QString, QString> &environment, const QByteArray &standardInput,
+                         const std::function<void()> &beforeStart)
 {
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     for (auto variable = environment.begin(); variable != environment.end(); ++variable) {
@@ -15,6 +16,8 @@ ProgramResult runProgram(const QString &program, const QStringList &arguments,
 
     QProcess process;
     process.setProcessEnvironment(variables);
+    if (beforeStart)
+        process.setChildProcessModifier(beforeStart);
     process.start(program, arguments);
     process.write(standardInput);
     process.closeWriteChannel();

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 /* What a finished program left behind. */
 struct ProgramResult
 {
@@ -16,8 +18,10 @@ struct ProgramResult
 
 /*
  * Runs a program to its end (60 seconds at most), with the environment of the test changed by the given
- * variables; one whose value is a null text is taken out.
+ * variables; one whose value is a null text is taken out. The last function runs in the new process just
+ * before the program starts, to set what cannot be said otherwise: limits, the working directory, where
+ * output goes.
  */
 ProgramResult runProgram(const QString &program, const QStringList &arguments,
-                         const QMap<QString, QString> &environment = {},
-                         const QByteArray &standardInput = {});
+                         const QMap<QString, QString> &environment = {}, const QByteArray &standardInput = {},
+                         const std::function<void()> &beforeStart = {});

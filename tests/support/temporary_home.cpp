@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <sys/stat.h>
+
 TemporaryHome::TemporaryHome(const QString &name)
     : home(directory.filePath(name))
 {
@@ -33,6 +35,14 @@ QString TemporaryHome::writeFile(const QString &name, const QByteArray &bytes) c
         || file.write(bytes) != bytes.size())
         qFatal("cannot write the file %s", qPrintable(file.fileName()));
     return file.fileName();
+}
+
+QString TemporaryHome::makeFifo(const QString &name) const
+{
+    const QString path = filePath(name);
+    if (mkfifo(QFile::encodeName(path).constData(), 0600) != 0)
+        qFatal("cannot make the FIFO %s", qPrintable(path));
+    return path;
 }
 
 void TemporaryHome::enter() const

@@ -23,6 +23,9 @@ public:
     /* Puts the bytes into a file of this name, creating folders; returns its absolute path. */
     QString writeFile(const QString &name, const QByteArray &bytes) const;
 
+    /* Makes a FIFO of this name; returns its absolute path. */
+    QString makeFifo(const QString &name) const;
+
     /* Makes this the home directory of the test itself. Before the first use of the configuration only. */
     void enter() const;
 
