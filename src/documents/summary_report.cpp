@@ -89,7 +89,7 @@ public:
         printCancelledRow(QObject::tr("SERIAL"), QObject::tr("TOTAL"), QObject::tr("TAXRATE"));
         // Behind number and totals, each three attributes are one document, whatever their names.
         for (int i = 2; i < attributes.count(); i += 3)
-            printCancelledRow(attributes.value(i), attributes.value(i + 1), attributes.value(i + 2));
+            printCancelledRow(attributeAt(i), attributeAt(i + 1), attributeAt(i + 2));
     }
 
 private:
@@ -117,6 +117,12 @@ private:
         driver.print(0, attributes.value(u"firstserial"_s));
         driver.print(0, u" - "_s);
         driver.println(attributes.value(u"lastserial"_s));
+    }
+
+    // The last document may lack its last attributes, and the reader does not check positions.
+    QString attributeAt(int position) const
+    {
+        return position < attributes.count() ? attributes.value(position) : QString();
     }
 
     void printCancelledRow(const QString &serial, const QString &total, const QString &taxRate)
