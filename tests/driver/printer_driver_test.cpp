@@ -11,13 +11,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct DocumentType
+struct TypeAndSection
 {
     const char *name;
     const char *section;
 };
 
-constexpr DocumentType documentTypes[] = {
+constexpr TypeAndSection typesAndSections[] = {
     {"order", "doc"},          {"prefiscal", "prefiscaldoc"}, {"fiscal", "fiscaldoc"},
     {"receipt", "receiptdoc"}, {"invoice", "invoicedoc"},     {"delivery", "deliverydoc"},
     {"report", "reportdoc"},   {"sold", "solddoc"},
@@ -432,7 +432,7 @@ private:
         QTest::addColumn<QByteArray>("type");
         QTest::addColumn<QByteArray>("section");
         QTest::addColumn<QByteArray>("setting");
-        for (const auto &[type, section] : documentTypes)
+        for (const auto &[type, section] : typesAndSections)
             for (const auto &setting : settings)
                 QTest::addRow("%s, %s", type, setting.name)
                     << QByteArray(type) << QByteArray(section) << QByteArray(setting.name);

@@ -39,7 +39,7 @@ QString TemporaryHome::writeFile(const QString &name, const QByteArray &bytes) c
 
 QString TemporaryHome::makeFifo(const QString &name) const
 {
-    const QString path = filePath(name);
+    QString path = filePath(name);
     if (mkfifo(QFile::encodeName(path).constData(), 0600) != 0)
         qFatal("cannot make the FIFO %s", qPrintable(path));
     return path;
