@@ -5,17 +5,25 @@
 
 using namespace Qt::StringLiterals;
 
+const PrinterDriver::ColumnTitles &PrinterDriver::titles()
+{
+    if (!columnTitles)
+        columnTitles = {QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
+                        QObject::tr("Amount")};
+    return *columnTitles;
+}
+
 void PrinterDriver::printItem(const QXmlAttributes &item, const QString &format)
 {
-    printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
-                       QObject::tr("Amount"));
+    const auto &[number, description, price, amount] = titles();
+    printColumnsHeader(number, description, price, amount);
     println(descriptionRow(item.value(u"number"_s), item.value(u"name"_s), item.value(u"price"_s),
                            item.value(u"totalPrice"_s), u'.', format));
 }
 
 void PrinterDriver::printItemType(const QXmlAttributes &itemType)
 {
-    printColumnsHeader(QObject::tr("Num"), QObject::tr("Description"), QString(), QObject::tr("Price"));
+    printColumnsHeader(titles().number, titles().description, QString(), titles().price);
     println(descriptionRow(itemType.value(u"number"_s), itemType.value(u"name"_s), QString(),
                            itemType.value(u"price"_s), u'.', u"qxdpt"_s));
 }

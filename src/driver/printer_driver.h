@@ -8,6 +8,7 @@
 #include <QXmlDefaultHandler>
 
 #include <memory>
+#include <optional>
 
 class TXConfiguration;
 
@@ -152,6 +153,16 @@ protected:
     Justification justification = Justification::left;
 
 private:
+    /* Translated at the first item: later ones hand them over as well, for nothing to be printed. */
+    struct ColumnTitles
+    {
+        QString number;
+        QString description;
+        QString price;
+        QString amount;
+    };
+    const ColumnTitles &titles();
+
     struct DocumentMethod;
     static const DocumentMethod *documentMethod(const QString &name);
 
@@ -163,6 +174,7 @@ private:
     std::unique_ptr<QTextStream> outputStream;
     bool duplicate = false;
     bool oneTimeDone = false;
+    std::optional<ColumnTitles> columnTitles;
 
     // Of the "printers" element. Only the name is printed.
     QString printerName;
