@@ -60,9 +60,6 @@ private Q_SLOTS:
         const auto row = [](const char *name, const QByteArray &text, const QByteArray &tree) {
             QTest::newRow(name) << text << tree;
         };
-        row("empty file", "", "");
-        row("white space only", " \t\r\n\n", "");
-        row("text only", "nothing that ends a statement", "");
         row("top-level setting", "a = 1;", "a = 1\n");
         row("top-level setting and a section", "a = 1;\ns : { k = v; };", "a = 1\ns\nk = v\n");
         row("top-level setting behind a section", "s : { k = v; };\na = 1;", "a = 1\ns\nk = v\n");
@@ -108,7 +105,6 @@ private Q_SLOTS:
             "s\nm = x\nt\nk = v\n");
         row("missing semicolon of the last section", "s : { k = v; }", "s\nk = v\n");
         row("top-level brace ends the file", "s : { k = v; }; } ; t : { l = w; };", "s\nk = v\n");
-        row("top-level brace at the start", "}; s : { k = v; };", "");
         row("one brace too many", "s : { k = v; }; }; a = 1;", "s\nk = v\n");
     }
 
@@ -118,6 +114,25 @@ private Q_SLOTS:
         const TemporaryHome home;
         const libconfig::Config config(home.writeFile(u"tavolux.conf"_s, text), u"cfg"_s);
         QTEST(printedSections(config), "tree");
+    }
+
+    void fileWithoutStatementsLeavesNoTree_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("empty file") << QByteArray();
+        QTest::newRow("white space only") << QByteArray(" \t\r\n\n");
+        QTest::newRow("text only") << QByteArray("nothing that ends a statement");
+        QTest::newRow("brace first") << QByteArray("}; s : { k = v; };");
+    }
+
+    void fileWithoutStatementsLeavesNoTree()
+    {
+        QFETCH(const QByteArray, text);
+        const TemporaryHome home;
+        const libconfig::Config config(home.writeFile(u"tavolux.conf"_s, text), u"cfg"_s);
+        QCOMPARE(capturedOutput([&] { config.printConfigTree(); }), "Tree \n");
+        QCOMPARE(config.lookup(u"s.k"_s), QString());
+        QCOMPARE(config.lookup(QString()), QString());
     }
 
     void value_data()
