@@ -1,0 +1,172 @@
+#include "captured_output.h"
+#include "sync_singleton.h"
+#include "temporary_home.h"
+#include "tx_configuration.h"
+
+#include <QTest>
+
+#include <atomic>
+#include <barrier>
+#include <cstdlib>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int threadCount = 16;
+
+/* What each of several threads gets that all ask at the same moment. */
+template <typename T>
+std::vector<T *> instancesOfThreads()
+{
+    std::vector<T *> instances(threadCount);
+    std::vector<std::thread> threads;
+    std::barrier start(threadCount);
+    for (T *&instance : instances) {
+        threads.emplace_back([&] {
+            start.arrive_and_wait();
+            instance = &SyncSingleton<T>::instance();
+        });
+    }
+    for (std::thread &thread : threads)
+        thread.join();
+    return instances;
+}
+
+/* Takes its time to be constructed, so that all others come while it is, and is written without a lock. */
+struct Slow
+{
+    Slow()
+    {
+        ++constructions;
+        for (int i = 0; i < 100; ++i)
+            std::this_thread::yield();
+        value = 17;
+    }
+
+    int value = 0;
+    static inline std::atomic<int> constructions = 0;
+};
+
+struct Untouched
+{
+    Untouched() { ++constructions; }
+
+    static inline int constructions = 0;
+};
+
+struct Failing
+{
+    Failing() { throw std::runtime_error("no"); }
+};
+
+struct LastWords
+{
+    ~LastWords() { (void)!write(pipeEnd, "destroyed", 9); }
+
+    static inline int pipeEnd = -1;
+};
+
+} // namespace
+
+/* The one configuration of a process; run under the thread sanitizer as well. */
+class SyncSingletonTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // First, while there are no threads that a fork would lose.
+    void instanceIsDestroyedWhenTheProcessExits()
+    {
+        int ends[2];
+        QCOMPARE(pipe(ends), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            close(ends[0]);
+            LastWords::pipeEnd = ends[1];
+            (void)SyncSingleton<LastWords>::instance();
+            std::exit(0);
+        }
+        close(ends[1]);
+        char words[20];
+        const ssize_t length = read(ends[0], words, sizeof words);
+        close(ends[0]);
+        int status = -1;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QCOMPARE(status, 0);
+        QCOMPARE(QByteArray(words, length), "destroyed");
+    }
+
+    void oneInstanceForAllThreads()
+    {
+        const std::vector<Slow *> instances = instancesOfThreads<Slow>();
+        QCOMPARE(Slow::constructions.load(), 1);
+        for (const Slow *instance : instances) {
+            QCOMPARE(instance, instances.front());
+            QCOMPARE(instance->value, 17);
+        }
+        QCOMPARE(&SyncSingleton<Slow>::instance(), instances.front());
+    }
+
+    void nothingBeforeTheFirstUseAndOnlyOnce()
+    {
+        QCOMPARE(Untouched::constructions, 0);
+        SyncSingleton<Untouched>::createInstance();
+        QCOMPARE(Untouched::constructions, 1);
+        SyncSingleton<Untouched>::createInstance();
+        (void)SyncSingleton<Untouched>::instance();
+        QCOMPARE(Untouched::constructions, 1);
+    }
+
+    void configurationIsReadOnceByAllThreads()
+    {
+        const TemporaryHome home;
+        home.enter();
+        std::vector<TXConfiguration *> instances;
+        const QByteArray messages =
+            capturedOutput([&] { instances = instancesOfThreads<TXConfiguration>(); });
+        // Every reading of the missing file would say so.
+        QCOMPARE(messages,
+                 "Error in the method FileReader::open( " + home.path().toUtf8()
+                     + "/.tavolux/conf/tavolux.conf ): File Not Found\n");
+        for (const TXConfiguration *instance : instances)
+            QCOMPARE(instance, instances.front());
+
+        home.writeConfiguration("tavolux : { language : { file = now; }; };");
+        const TXConfiguration &later = SyncSingleton<TXConfiguration>::instance();
+        QCOMPARE(&later, instances.front());
+        QCOMPARE(later.getStrValue(u"tavolux.language.file"_s), QString());
+    }
+
+    void threadsLookUpAtTheSameTime()
+    {
+        const TemporaryHome home;
+        libconfig::Config config(home.writeFile(u"tavolux.conf"_s, "s : { t : { k = v; }; };"), u"cfg"_s);
+        std::atomic<int> found = 0;
+        std::vector<std::thread> threads;
+        for (int i = 0; i < threadCount; ++i) {
+            threads.emplace_back([&] {
+                for (int j = 0; j < 100; ++j)
+                    found += config.lookup(u"s.t.k"_s) == "v"_L1;
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(found.load(), threadCount * 100);
+    }
+
+    // Last: the lock stays locked, and the toolkit says so at the end of the process.
+    void exceptionOfTheConstructorGoesToTheCaller()
+    {
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, SyncSingleton<Failing>::createInstance());
+    }
+};
+
+QTEST_GUILESS_MAIN(SyncSingletonTest)
+#include "sync_singleton_test.moc"
