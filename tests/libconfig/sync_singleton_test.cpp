@@ -1,4 +1,5 @@
 #include "captured_output.h"
+#include "program_run.h"
 #include "sync_singleton.h"
 #include "temporary_home.h"
 #include "tx_configuration.h"
@@ -12,7 +13,6 @@
 #include <thread>
 #include <vector>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -68,10 +68,11 @@ struct Failing
 
 struct LastWords
 {
-    ~LastWords() { (void)!write(pipeEnd, "destroyed", 9); }
-
-    static inline int pipeEnd = -1;
+    ~LastWords() { (void)!write(STDOUT_FILENO, "destroyed", 9); }
 };
+
+/* The argument with which this program does nothing but create an instance of that and exit. */
+const QString leaveLastWords = u"leave-last-words"_s;
 
 } // namespace
 
@@ -81,26 +82,11 @@ class SyncSingletonTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // First, while there are no threads that a fork would lose.
     void instanceIsDestroyedWhenTheProcessExits()
     {
-        int ends[2];
-        QCOMPARE(pipe(ends), 0);
-        const pid_t child = fork();
-        if (child == 0) {
-            close(ends[0]);
-            LastWords::pipeEnd = ends[1];
-            (void)SyncSingleton<LastWords>::instance();
-            std::exit(0);
-        }
-        close(ends[1]);
-        char words[20];
-        const ssize_t length = read(ends[0], words, sizeof words);
-        close(ends[0]);
-        int status = -1;
-        QCOMPARE(waitpid(child, &status, 0), child);
-        QCOMPARE(status, 0);
-        QCOMPARE(QByteArray(words, length), "destroyed");
+        const ProgramResult run = runProgram(QCoreApplication::applicationFilePath(), {leaveLastWords});
+        QCOMPARE(run.exitStatus, 0);
+        QCOMPARE(run.standardOutput, "destroyed");
     }
 
     void oneInstanceForAllThreads()
@@ -168,5 +154,15 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(SyncSingletonTest)
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().value(1) == leaveLastWords) {
+        (void)SyncSingleton<LastWords>::instance();
+        return 0;
+    }
+    SyncSingletonTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "sync_singleton_test.moc"
