@@ -135,15 +135,16 @@ private Q_SLOTS:
         const TemporaryHome home;
         home.writeConfiguration(configuration);
         const QString output = home.filePath(u"printed.txt"_s);
+        const QString ignored = home.filePath(u"ignored"_s);
         const QStringList arguments =
-            QStringList({home.writeFile(u"document.xml"_s, receipt), output}) + QStringList(7, u"ignored"_s);
+            QStringList({home.writeFile(u"document.xml"_s, receipt), output}) + QStringList(7, ignored);
 
         const QByteArray usage = "Usage: " + program.toUtf8() + " input_file output_file\n";
         QCOMPARE(messagesOf(home, arguments.first(count)), accepted ? QByteArray() : usage);
         QCOMPARE(QFile::exists(output), accepted);
         if (accepted)
             QCOMPARE(fileBytes(output), printedReceipt);
-        QVERIFY(!QFile::exists(u"ignored"_s));
+        QVERIFY(!QFile::exists(ignored));
     }
 
     void usageShowsTheNameAsItWasCalled()
@@ -343,14 +344,19 @@ private Q_SLOTS:
                  "");
     }
 
-    /* The next file to be opened takes the place of a closed standard output; it must not get the messages.
-     */
-    void messagesStayOffThePaperWithoutAStandardOutput()
+    /* The next files to be opened take the places of the closed streams; the output must not get the
+     * messages. */
+    void messagesStayOffThePaperWithoutStandardStreams()
     {
         const TemporaryHome home;
         const QString output = home.filePath(u"printed.txt"_s);
         const QString input = home.writeFile(u"document.xml"_s, unknownMethod);
-        QCOMPARE(messagesOf(home, {input, output}, {}, [] { close(STDOUT_FILENO); }), "");
+        QCOMPARE(messagesOf(home, {input, output}, {},
+                            [] {
+                                for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+                                    close(stream);
+                            }),
+                 "");
         QCOMPARE(fileBytes(output), "");
     }
 

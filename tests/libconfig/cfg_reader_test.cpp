@@ -283,6 +283,7 @@ private Q_SLOTS:
         libconfig::Config config(file, u"cfg"_s);
         QCOMPARE(config.lookup(keyAtDepth(deepest, u"k"_s)), u"v"_s);
         QCOMPARE(config.lookup(keyAtDepth(deepest + 1, u"k"_s)), QString());
+        QCOMPARE(config.lookup(keyAtDepth(deepest, u"deepest"_s)), QString());
         QCOMPARE(config.lookup(keyAtDepth(depth, u"deepest"_s)), QString());
         QVERIFY(!printedSections(config).contains("behind"));
 
@@ -323,8 +324,8 @@ private Q_SLOTS:
         home.makeFifo(u"fifo"_s);
         QVERIFY(QFile::link(home.filePath(u"missing"_s), home.filePath(u"link"_s)));
         QVERIFY(QFile::setPermissions(home.writeFile(u"secret"_s, "s : { k = v; };"), {}));
-        for (const QString &folder : {home.path(), home.path() + "/.."_L1})
-            QCOMPARE(chmod(QFile::encodeName(folder).constData(), 0755), 0);
+        for (const QString &open : {home.path(), home.path() + "/.."_L1, home.filePath(u"fifo"_s)})
+            QCOMPARE(chmod(QFile::encodeName(open).constData(), 0755), 0);
 
         const QString file = home.filePath(name);
         libconfig::Config config;
