@@ -344,22 +344,6 @@ private Q_SLOTS:
                  "");
     }
 
-    /* The next files to be opened take the places of the closed streams; the output must not get the
-     * messages. */
-    void messagesStayOffThePaperWithoutStandardStreams()
-    {
-        const TemporaryHome home;
-        const QString output = home.filePath(u"printed.txt"_s);
-        const QString input = home.writeFile(u"document.xml"_s, unknownMethod);
-        QCOMPARE(messagesOf(home, {input, output}, {},
-                            [] {
-                                for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
-                                    close(stream);
-                            }),
-                 "");
-        QCOMPARE(fileBytes(output), "");
-    }
-
     void fullDeviceIsReportedOnce_data()
     {
         QTest::addColumn<QByteArray>("text");
