@@ -54,6 +54,19 @@ struct Slow
     static inline std::atomic<int> constructions = 0;
 };
 
+/* Tells when it is there without synchronising anybody. */
+struct Announced
+{
+    Announced()
+    {
+        value = 17;
+        constructed.store(true, std::memory_order_relaxed);
+    }
+
+    int value = 0;
+    static inline std::atomic<bool> constructed = false;
+};
+
 struct Untouched
 {
     Untouched() { ++constructions; }
@@ -82,13 +95,6 @@ class SyncSingletonTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void instanceIsDestroyedWhenTheProcessExits()
-    {
-        const ProgramResult run = runProgram(QCoreApplication::applicationFilePath(), {leaveLastWords});
-        QCOMPARE(run.exitStatus, 0);
-        QCOMPARE(run.standardOutput, "destroyed");
-    }
-
     void oneInstanceForAllThreads()
     {
         const std::vector<Slow *> instances = instancesOfThreads<Slow>();
@@ -98,6 +104,25 @@ private Q_SLOTS:
             QCOMPARE(instance->value, 17);
         }
         QCOMPARE(&SyncSingleton<Slow>::instance(), instances.front());
+    }
+
+    void laterThreadsSeeAllOfTheInstance()
+    {
+        std::atomic<int> seen = 0;
+        std::vector<std::thread> threads;
+        for (int i = 1; i < threadCount; ++i) {
+            threads.emplace_back([&] {
+                while (!Announced::constructed.load(std::memory_order_relaxed))
+                    std::this_thread::yield();
+                for (int turn = 0; turn < 100; ++turn) // until it is published
+                    std::this_thread::yield();
+                seen += SyncSingleton<Announced>::instance().value;
+            });
+        }
+        seen += SyncSingleton<Announced>::instance().value;
+        for (std::thread &thread : threads)
+            thread.join();
+        QCOMPARE(seen.load(), threadCount * 17);
     }
 
     void nothingBeforeTheFirstUseAndOnlyOnce()
@@ -147,10 +172,19 @@ private Q_SLOTS:
         QCOMPARE(found.load(), threadCount * 100);
     }
 
-    // Last: the lock stays locked, and the toolkit says so at the end of the process.
+    // Behind everything that creates: the lock stays locked, and the toolkit says so at the end of the
+    // process.
     void exceptionOfTheConstructorGoesToTheCaller()
     {
         QVERIFY_THROWS_EXCEPTION(std::runtime_error, SyncSingleton<Failing>::createInstance());
+    }
+
+    // Behind all threads: the thread sanitizer follows none that is started after a process was.
+    void instanceIsDestroyedWhenTheProcessExits()
+    {
+        const ProgramResult run = runProgram(QCoreApplication::applicationFilePath(), {leaveLastWords});
+        QCOMPARE(run.exitStatus, 0);
+        QCOMPARE(run.standardOutput, "destroyed");
     }
 };
 
