@@ -1,11 +1,10 @@
 #include "config.h"
 #include "diagnostic.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QTextStream>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -14,24 +13,6 @@ namespace libconfig {
 namespace {
 
 constexpr QLatin1StringView indentationStep = "    "_L1;
-
-// A configuration is replaced whole or not at all. A device or a FIFO is written as it stands: replacing it
-// would put a regular file in its place.
-std::unique_ptr<QFileDevice> fileToWrite(const QString &name)
-{
-    const QFileInfo target(name);
-    if (target.exists() && !target.isFile())
-        return std::make_unique<QFile>(name);
-    auto file = std::make_unique<QSaveFile>(name);
-    file->setDirectWriteFallback(true);
-    return file;
-}
-
-bool commit(QFileDevice &file)
-{
-    auto *replacement = qobject_cast<QSaveFile *>(&file);
-    return !replacement || replacement->commit();
-}
 
 QString written(const QDomAttr &setting)
 {
@@ -42,19 +23,30 @@ QString written(const QDomAttr &setting)
 
 bool Config::writeFile(const QString &name, QStringConverter::Encoding encoding, NodeWriter writeNode) const
 {
-    const std::unique_ptr<QFileDevice> file = fileToWrite(name.isEmpty() ? fileName : name);
-    if (!file->open(QIODevice::WriteOnly))
-        return false;
+    const auto writeTo = [&](QFileDevice &file) {
+        if (!file.open(QIODevice::WriteOnly))
+            return false;
+        QTextStream stream(&file);
+        stream.setEncoding(encoding);
+        const QDomElement root = rootElement();
+        for (const QDomAttr &setting : settings(root))
+            stream << written(setting) << ";\n";
+        if (const QDomNode firstSection = root.firstChild(); !firstSection.isNull())
+            (this->*writeNode)(firstSection, stream, {});
+        stream.flush();
+        return stream.status() == QTextStream::Ok;
+    };
 
-    QTextStream stream(file.get());
-    stream.setEncoding(encoding);
-    const QDomElement root = rootElement();
-    for (const QDomAttr &setting : settings(root))
-        stream << written(setting) << ";\n";
-    if (const QDomNode firstSection = root.firstChild(); !firstSection.isNull())
-        (this->*writeNode)(firstSection, stream, {});
-    stream.flush();
-    return stream.status() == QTextStream::Ok && commit(*file);
+    const QString target = name.isEmpty() ? fileName : name;
+    // A device or a FIFO is written as it stands: replacing it would put a regular file in its place.
+    if (const QFileInfo info(target); info.exists() && !info.isFile()) {
+        QFile file(target);
+        return writeTo(file);
+    }
+    // A file is replaced whole or not at all. Where its folder takes no new file it stays as it is, since writing
+    // over it could lose it on a full disk.
+    QSaveFile file(target);
+    return writeTo(file) && file.commit();
 }
 
 bool Config::buildConfigFile(const QString &name) const

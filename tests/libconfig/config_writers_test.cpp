@@ -475,6 +475,21 @@ private Q_SLOTS:
                  QStringList(u"tavolux.conf"_s));
     }
 
+    void folderThatTakesNoNewFileKeepsWhatWasThere_data() { addWriters(); }
+
+    // Written where it stands, the file would be lost when the disk is full.
+    void folderThatTakesNoNewFileKeepsWhatWasThere()
+    {
+        QFETCH(const Writer, writer);
+        const TemporaryHome home;
+        const libconfig::Config config(home.writeFile(u"tavolux.conf"_s, example), u"cfg"_s);
+        const QString file = u"/proc/self/comm"_s; // can be written, by root too, but has no room beside it
+        const QByteArray before = fileBytes(file);
+        QVERIFY(!before.isEmpty());
+        QVERIFY(!(config.*writer)(file));
+        QCOMPARE(fileBytes(file), before);
+    }
+
     void fifoIsWrittenAndStays_data() { addWriters(); }
 
     void fifoIsWrittenAndStays()
