@@ -12,6 +12,7 @@ namespace {
 bool nestsDeeperThan(int limit, const QByteArray &text)
 {
     QXmlStreamReader reader(text);
+    reader.setNamespaceProcessing(false); // the tree is built without, so no prefix ends the count
     for (int depth = 0; !reader.atEnd();) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         if (token == QXmlStreamReader::StartElement && ++depth > limit)

@@ -127,6 +127,13 @@ private Q_SLOTS:
               "value");
     }
 
+    void prefixesDoNotHideTheDepth()
+    {
+        const TemporaryHome home;
+        const QString file = home.writeFile(u"tavolux.xml"_s, "<p:s k=\"v\">" + nestedElements(256) + "</p:s>");
+        QCOMPARE(libconfig::Config(file, u"xml"_s).lookup(u"p:s.k"_s), QString());
+    }
+
     void elementsSideBySideAreNotDeep()
     {
         const TemporaryHome home;

@@ -603,6 +603,9 @@ void EditorWindowTest::tellsWhatCannotBeRead_data()
     QTest::newRow("declaration")
         << u"declared.xml"_s << u"xml"_s
         << u"It must begin with its root element: nothing is found behind a declaration or a comment, nor in elements nested deeper than 256."_s;
+    QTest::newRow("deep")
+        << u"deep.xml"_s << u"xml"_s
+        << u"It must begin with its root element: nothing is found behind a declaration or a comment, nor in elements nested deeper than 256."_s;
 }
 
 void EditorWindowTest::tellsWhatCannotBeRead()
@@ -614,6 +617,9 @@ void EditorWindowTest::tellsWhatCannotBeRead()
     home->writeFile(u"empty"_s, " \n");
     home->writeFile(u"open.xml"_s, "<r>\n</s>\n");
     home->writeFile(u"declared.xml"_s, "<?xml version='1.0'?><r k='v'/>");
+    home->writeFile(u"deep.xml"_s,
+                    "<p:r>" + QByteArray("<s>").repeated(100'000) + QByteArray("</s>").repeated(100'000)
+                        + "</p:r>");
     openFile(home->filePath(name), type);
     QCOMPARE(dialogs.heard.size(), 2);
     QCOMPARE(dialogs.heard.first(), u"Cannot read %1"_s.arg(file));

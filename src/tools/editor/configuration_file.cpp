@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTreeWidget>
+#include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +20,19 @@ QString readAll(const QString &path, QByteArray &bytes)
     if (file.open(QIODevice::ReadOnly))
         bytes = file.readAll();
     return file.error() == QFileDevice::NoError ? QString() : file.errorString() + u'.';
+}
+
+// As the store reads it, but without building a tree, however deep it were.
+QString xmlFault(const QByteArray &bytes)
+{
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    while (!reader.atEnd())
+        reader.readNext();
+    return reader.hasError() ? u"It is no XML: line %1, column %2: %3."_s.arg(
+               QString::number(reader.lineNumber()), QString::number(reader.columnNumber()),
+               reader.errorString())
+                             : QString();
 }
 
 } // namespace
@@ -40,13 +54,9 @@ QString ConfigurationFile::read()
     QByteArray bytes;
     if (QString reason = readAll(filePath, bytes); !reason.isEmpty())
         return reason;
-    if (type == "xml"_L1) {
-        QString reason;
-        int line = 0;
-        int column = 0;
-        if (!QDomDocument().setContent(bytes, &reason, &line, &column))
-            return u"It is no XML: line %1, column %2: %3."_s.arg(line).arg(column).arg(reason);
-    }
+    if (type == "xml"_L1)
+        if (QString reason = xmlFault(bytes); !reason.isEmpty())
+            return reason;
     auto fresh = std::make_unique<libconfig::Config>(filePath, type);
     const std::unique_ptr<QTreeWidget> shown(fresh->buildConfigListView());
     const QTreeWidgetItem *root = shown->topLevelItem(0);
