@@ -120,6 +120,7 @@ private Q_SLOTS:
         QTest::newRow("an empty file") << QByteArray() << cfg << u"tavolux.doc.style"_s << QByteArray();
         QTest::newRow("Latin-1 comes out in the terminal's encoding")
             << QByteArray("s : { k = \xE4; };") << cfg << u"s.k"_s << QByteArray("\xC3\xA4");
+        QTest::newRow("NUL") << QByteArray("s : { k = a\0b; };", 17) << cfg << u"s.k"_s << QByteArray("a\0b", 3);
         QTest::newRow("xml") << QByteArray("<s k='v'/>") << u"xml"_s << u"s.k"_s << QByteArray("v");
         QTest::newRow("xml, beyond Latin-1")
             << QByteArray("<s k='\xE2\x82\xAC'/>") << u"xml"_s << u"s.k"_s << QByteArray("?");
@@ -348,12 +349,15 @@ private Q_SLOTS:
 
     void beginWhereNothingCanBe()
     {
-        const QString file = home->writeFile(u"file"_s, "") + "/some.conf"_L1;
-        const ProgramResult result = run({u"--file"_s, file, u"init"_s});
-        QCOMPARE(result.exitStatus, 2);
-        QCOMPARE(result.standardOutput, "");
-        QCOMPARE(result.standardError,
-                 "tavolux-config: cannot write " + file.toLatin1() + ": Not a directory\n");
+        const auto verify = [&](const QString &file, const QString &message) {
+            const ProgramResult result = run({u"--file"_s, file, u"init"_s});
+            QCOMPARE(result.exitStatus, 2);
+            QCOMPARE(result.standardOutput, "");
+            QCOMPARE(result.standardError, "tavolux-config: cannot " + message.toLatin1() + '\n');
+        };
+        const QString file = home->writeFile(u"file"_s, "");
+        verify(file + "/some.conf"_L1, "make the folder "_L1 + file);
+        verify(u"/proc/self/some.conf"_s, u"write /proc/self/some.conf: No such file or directory"_s);
     }
 
     void edit()

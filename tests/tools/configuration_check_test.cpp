@@ -218,6 +218,10 @@ private Q_SLOTS:
             << QStringList{u"2: \"x\" belongs to no setting and is passed over"_s};
         QTest::newRow("text at the end") << tavolux("doc : { printNote = true; };")
                 + "x" << QStringList{u"4: \"x\" belongs to no setting and is passed over"_s};
+        QTest::newRow("control characters are not shown")
+            << tavolux(QByteArray("doc : { printNote = \x1B[2J\0; };", 29))
+            << QStringList{
+                   u"2: \"printNote\" is \"\uFFFD[2J\uFFFD\", neither \"true\" nor \"false\", so it is off"_s};
         QTest::newRow("long text is cut") << tavolux("doc : { printNote = true; };") + QByteArray(51, 'x')
                                           << QStringList{"4: \""_L1 + QString(50, u'x')
                                                          + u"…\" belongs to no setting and is passed over"_s};

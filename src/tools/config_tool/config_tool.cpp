@@ -29,7 +29,7 @@ constexpr QLatin1StringView editorName = "tavolux-config-editor"_L1;
 
 void print(const QString &line)
 {
-    std::cout << line.toLocal8Bit().constData() << '\n';
+    std::cout << line.toLocal8Bit().toStdString() << '\n'; // a value may hold NUL
 }
 
 void complain(const QString &message)
@@ -126,7 +126,10 @@ ExitStatus init(const Task &task)
 {
     if (task.kind != "cfg"_L1)
         return refuse(u"a starter configuration is of the kind cfg"_s);
-    QDir().mkpath(QFileInfo(task.file).path());
+    if (const QString folder = QFileInfo(task.file).path(); !QDir().mkpath(folder)) {
+        complain(u"cannot make the folder %1"_s.arg(folder));
+        return exitTrouble;
+    }
     QFile file(task.file);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
         const bool exists = QFileInfo::exists(task.file) || QFileInfo(task.file).isSymLink();
@@ -197,7 +200,8 @@ QString commandHelp()
     return help
         + "\nThe exit status is 0 when all is well, 1 when a value is empty, a check found something, OUT "
           "could not\n"
-          "be written whole or the file to begin exists, and 2 after wrong usage or when FILE cannot be read."_L1;
+          "be written whole or the file to begin exists, and 2 after wrong usage, when FILE cannot be read\n"
+          "or begun, or when there is no editor."_L1;
 }
 
 QString widthsText()

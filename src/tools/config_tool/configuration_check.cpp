@@ -108,12 +108,17 @@ bool isOnOneLine(const QString &text)
     return !containsAny(text, u"\r\n");
 }
 
-/* The text as a message shows it: on one line, not too long, quoted. */
+/* The text as a message shows it: on one line, not too long, nothing that a terminal would obey, quoted. */
 QString quoted(const QString &text)
 {
     constexpr qsizetype longest = 50;
-    const QString shown = isOnOneLine(text) ? text : text.simplified();
-    return u'"' + (shown.size() > longest ? shown.first(longest) + u'…' : shown) + u'"';
+    QString shown = isOnOneLine(text) ? text : text.simplified();
+    if (shown.size() > longest)
+        shown = shown.first(longest) + u'…';
+    for (QChar &character : shown)
+        if (character.category() == QChar::Other_Control)
+            character = QChar::ReplacementCharacter;
+    return u'"' + shown + u'"';
 }
 
 // What is meant as a value holds nothing that looks like a statement.
