@@ -7,6 +7,7 @@
 
 #include <QDirIterator>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -123,10 +124,13 @@ class PagesTest : public QObject
 private Q_SLOTS:
     void printsWhatThePageShows_data();
     void printsWhatThePageShows();
+    void passesTheSchema_data();
+    void passesTheSchema();
     void everyDocumentHasItsPrintout_data();
     void everyDocumentHasItsPrintout();
     void linksResolve_data();
     void linksResolve();
+    void everyPageAndPictureIsReached();
     void namesWhatTheSourcesKnow_data();
     void namesWhatTheSourcesKnow();
     void mapsEveryFolder();
@@ -171,6 +175,23 @@ void PagesTest::printsWhatThePageShows()
     QCOMPARE(run.standardOutput, QByteArray());
     QCOMPARE(run.standardError, QByteArray());
     QCOMPARE(fileBytes(home.filePath(u"printed"_s)), printedBytes(printout));
+}
+
+void PagesTest::passesTheSchema_data()
+{
+    printsWhatThePageShows_data();
+}
+
+void PagesTest::passesTheSchema()
+{
+    QFETCH(QString, document);
+
+    const TemporaryHome home;
+    const ProgramResult run = runProgram(u"xmllint"_s,
+                                         {u"--noout"_s, u"--relaxng"_s,
+                                          projectFolder.filePath(u"data/tavolux-document.rng"_s),
+                                          home.writeFile(u"order.xml"_s, document.toUtf8())});
+    QVERIFY2(run.exitStatus == 0, run.standardError.constData());
 }
 
 void PagesTest::everyDocumentHasItsPrintout_data()
@@ -218,6 +239,24 @@ void PagesTest::linksResolve()
     QVERIFY(QFileInfo::exists(projectFolder.filePath(linked)));
     if (!fragment.isEmpty())
         QVERIFY(anchors(readPage(linked).prose).contains(fragment));
+}
+
+// From another page.
+void PagesTest::everyPageAndPictureIsReached()
+{
+    QSet<QString> linked;
+    static const QRegularExpression links(u"\\]\\(([^)#]+)"_s);
+    for (const QString &path : markdownPages())
+        for (const QRegularExpressionMatch &match : links.globalMatch(readPage(path).prose))
+            linked.insert(QDir::cleanPath(QFileInfo(path).path() + u'/' + match.captured(1)));
+
+    QDirIterator files(projectFolder.filePath(u"docs"_s), {u"*.md"_s, u"*.png"_s}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    QVERIFY(files.hasNext());
+    while (files.hasNext()) {
+        const QString file = projectFolder.relativeFilePath(files.next());
+        QVERIFY2(linked.contains(file), qPrintable(file));
+    }
 }
 
 void PagesTest::namesWhatTheSourcesKnow_data()
