@@ -43,8 +43,8 @@ bool Config::writeFile(const QString &name, QStringConverter::Encoding encoding,
         QFile file(target);
         return writeTo(file);
     }
-    // A file is replaced whole or not at all. Where its folder takes no new file it stays as it is, since writing
-    // over it could lose it on a full disk.
+    // A file is replaced whole or not at all. Where its folder takes no new file it stays as it is, since
+    // writing over it could lose it on a full disk.
     QSaveFile file(target);
     return writeTo(file) && file.commit();
 }

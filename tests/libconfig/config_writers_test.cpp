@@ -1,5 +1,6 @@
 #include "captured_output.h"
 #include "config.h"
+#include "file_size_limit.h"
 #include "temporary_home.h"
 
 #include <QDir>
@@ -9,10 +10,7 @@
 #include <QTest>
 #include <QTextStream>
 
-#include <csignal>
-
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -159,32 +157,6 @@ private:
     QRandomGenerator random;
     QString nameLetters;
     QString valueLetters;
-};
-
-/* No file of this process grows beyond the limit while the object lives. */
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit = {bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
-    }
-
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit before = {};
-    sighandler_t handler;
 };
 
 } // namespace
@@ -473,21 +445,6 @@ private Q_SLOTS:
         // Nor is anything left beside it.
         QCOMPARE(QDir(home.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
                  QStringList(u"tavolux.conf"_s));
-    }
-
-    void folderThatTakesNoNewFileKeepsWhatWasThere_data() { addWriters(); }
-
-    // Written where it stands, the file would be lost when the disk is full.
-    void folderThatTakesNoNewFileKeepsWhatWasThere()
-    {
-        QFETCH(const Writer, writer);
-        const TemporaryHome home;
-        const libconfig::Config config(home.writeFile(u"tavolux.conf"_s, example), u"cfg"_s);
-        const QString file = u"/proc/self/comm"_s; // can be written, by root too, but has no room beside it
-        const QByteArray before = fileBytes(file);
-        QVERIFY(!before.isEmpty());
-        QVERIFY(!(config.*writer)(file));
-        QCOMPARE(fileBytes(file), before);
     }
 
     void fifoIsWrittenAndStays_data() { addWriters(); }

@@ -130,7 +130,8 @@ private Q_SLOTS:
     void prefixesDoNotHideTheDepth()
     {
         const TemporaryHome home;
-        const QString file = home.writeFile(u"tavolux.xml"_s, "<p:s k=\"v\">" + nestedElements(256) + "</p:s>");
+        const QString file =
+            home.writeFile(u"tavolux.xml"_s, "<p:s k=\"v\">" + nestedElements(256) + "</p:s>");
         QCOMPARE(libconfig::Config(file, u"xml"_s).lookup(u"p:s.k"_s), QString());
     }
 

@@ -1,4 +1,5 @@
 #include "config.h"
+#include "file_size_limit.h"
 #include "print_run.h"
 
 #include <QDir>
@@ -6,39 +7,13 @@
 #include <QSet>
 #include <QTest>
 
-#include <csignal>
 #include <future>
-
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString saveConfiguration = QStringLiteral(TAVOLUX_SAVE_CONFIGURATION);
-
-/* While it lives no file of this process can grow beyond so many bytes, which then fails like a full disk. */
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit = {bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handlerBefore);
-    }
-
-private:
-    rlimit before = {};
-    void (*handlerBefore)(int) = std::signal(SIGXFSZ, SIG_IGN);
-};
 
 /* Settings that fill several buffers; of the profile, the first setting is at the front and the last one at
  * the end, as the writer puts them. */
@@ -168,6 +143,22 @@ private Q_SLOTS:
         QCOMPARE(QDir(home.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                  QStringList(u"tavolux.conf"_s));
         QVERIFY(config.buildConfigFile({}));
+    }
+
+    // Written where it stands, the file would be lost when the disk is full.
+    void saveInAFolderThatTakesNoNewFile()
+    {
+        const TemporaryHome home;
+        const QString source = home.writeFile(u"source.conf"_s, "s : { k = new; };");
+        const QString target = home.writeFile(u"closed/tavolux.conf"_s, "s : { k = old; };");
+        const QString folder = QFileInfo(target).path();
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+        const ProgramResult result =
+            runProgram(saveConfiguration, {target, u"1"_s, source}, {}, {}, becomeOrdinaryUser);
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(!result.crashed);
+        QCOMPARE(result.exitStatus, 1);
+        QCOMPARE(fileBytes(target), "s : { k = old; };"_ba);
     }
 
     void saveOnFullFileSystem()
