@@ -187,10 +187,10 @@ void PagesTest::passesTheSchema()
     QFETCH(QString, document);
 
     const TemporaryHome home;
-    const ProgramResult run = runProgram(u"xmllint"_s,
-                                         {u"--noout"_s, u"--relaxng"_s,
-                                          projectFolder.filePath(u"data/tavolux-document.rng"_s),
-                                          home.writeFile(u"order.xml"_s, document.toUtf8())});
+    const ProgramResult run =
+        runProgram(u"xmllint"_s,
+                   {u"--noout"_s, u"--relaxng"_s, projectFolder.filePath(u"data/tavolux-document.rng"_s),
+                    home.writeFile(u"order.xml"_s, document.toUtf8())});
     QVERIFY2(run.exitStatus == 0, run.standardError.constData());
 }
 

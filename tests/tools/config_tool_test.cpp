@@ -120,7 +120,8 @@ private Q_SLOTS:
         QTest::newRow("an empty file") << QByteArray() << cfg << u"tavolux.doc.style"_s << QByteArray();
         QTest::newRow("Latin-1 comes out in the terminal's encoding")
             << QByteArray("s : { k = \xE4; };") << cfg << u"s.k"_s << QByteArray("\xC3\xA4");
-        QTest::newRow("NUL") << QByteArray("s : { k = a\0b; };", 17) << cfg << u"s.k"_s << QByteArray("a\0b", 3);
+        QTest::newRow("NUL") << QByteArray("s : { k = a\0b; };", 17) << cfg << u"s.k"_s
+                             << QByteArray("a\0b", 3);
         QTest::newRow("xml") << QByteArray("<s k='v'/>") << u"xml"_s << u"s.k"_s << QByteArray("v");
         QTest::newRow("xml, beyond Latin-1")
             << QByteArray("<s k='\xE2\x82\xAC'/>") << u"xml"_s << u"s.k"_s << QByteArray("?");

@@ -29,10 +29,11 @@ QString xmlFault(const QByteArray &bytes)
     reader.setNamespaceProcessing(false);
     while (!reader.atEnd())
         reader.readNext();
-    return reader.hasError() ? u"It is no XML: line %1, column %2: %3."_s.arg(
-               QString::number(reader.lineNumber()), QString::number(reader.columnNumber()),
-               reader.errorString())
-                             : QString();
+    return reader.hasError()
+        ? u"It is no XML: line %1, column %2: %3."_s.arg(QString::number(reader.lineNumber()),
+                                                         QString::number(reader.columnNumber()),
+                                                         reader.errorString())
+        : QString();
 }
 
 } // namespace
