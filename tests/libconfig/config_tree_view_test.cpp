@@ -1,13 +1,12 @@
 #include "config.h"
+#include "file_size_limit.h"
 #include "temporary_home.h"
 #include "tx_configuration.h"
 
 #include <QTest>
 #include <QTreeWidget>
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using libconfig::Config;
@@ -50,25 +49,6 @@ std::unique_ptr<QTreeWidget> viewOf(const Config &config)
 {
     return std::unique_ptr<QTreeWidget>(config.buildConfigListView());
 }
-
-// A disk with no more room than this, for as long as the object lives.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN); // the write fails instead
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit{bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before); }
-
-private:
-    rlimit before{};
-};
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "captured_output.h"
 #include "config.h"
+#include "file_size_limit.h"
 #include "temporary_home.h"
 
 #include <QDir>
@@ -9,10 +10,7 @@
 #include <QTest>
 #include <QTextStream>
 
-#include <csignal>
-
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -161,32 +159,6 @@ private:
     QString valueLetters;
 };
 
-/* No file of this process grows beyond the limit while the object lives. */
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit = {bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
-    }
-
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit before = {};
-    sighandler_t handler;
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(Writer)
@@ -299,8 +271,11 @@ private Q_SLOTS:
         QFETCH(const Writer, writer);
         const TemporaryHome home;
         const QString file = home.writeFile(u"caff\u00E8 \u20AC.conf"_s, example);
-        QVERIFY((libconfig::Config(file, u"cfg"_s).*writer)(QString()));
-        QTEST(fileBytes(file), "text");
+        for (const QString &name : {QString(), u""_s}) {
+            home.writeFile(u"caff\u00E8 \u20AC.conf"_s, example);
+            QVERIFY((libconfig::Config(file, u"cfg"_s).*writer)(name));
+            QTEST(fileBytes(file), "text");
+        }
     }
 
     void writtenFileReadsBackTheSame_data()
@@ -471,6 +446,23 @@ private Q_SLOTS:
         QVERIFY(!whole);
         QCOMPARE(fileBytes(file), example);
         // Nor is anything left beside it.
+        QCOMPARE(QDir(home.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
+                 QStringList(u"tavolux.conf"_s));
+    }
+
+    void fullDiskLeavesNoPartOfANewFile_data() { addWriters(); }
+
+    void fullDiskLeavesNoPartOfANewFile()
+    {
+        QFETCH(const Writer, writer);
+        const TemporaryHome home;
+        const libconfig::Config config(home.writeFile(u"tavolux.conf"_s, example), u"cfg"_s);
+        bool whole = true;
+        {
+            const FileSizeLimit limit(100);
+            whole = (config.*writer)(home.filePath(u"written"_s));
+        }
+        QVERIFY(!whole);
         QCOMPARE(QDir(home.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
                  QStringList(u"tavolux.conf"_s));
     }

@@ -1,4 +1,5 @@
 #include "config.h"
+#include "file_size_limit.h"
 #include "print_run.h"
 
 #include <QDir>
@@ -6,39 +7,13 @@
 #include <QSet>
 #include <QTest>
 
-#include <csignal>
 #include <future>
-
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString saveConfiguration = QStringLiteral(TAVOLUX_SAVE_CONFIGURATION);
-
-/* While it lives no file of this process can grow beyond so many bytes, which then fails like a full disk. */
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit = {bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handlerBefore);
-    }
-
-private:
-    rlimit before = {};
-    void (*handlerBefore)(int) = std::signal(SIGXFSZ, SIG_IGN);
-};
 
 /* Settings that fill several buffers; of the profile, the first setting is at the front and the last one at
  * the end, as the writer puts them. */
