@@ -33,7 +33,6 @@ QString trimmed(const std::string &bytes)
 bool Config::openFile(const QString &name)
 {
     closeFile();
-    inputStream.clear();
     // A directory opens as a stream that never ends, and a FIFO waits for a writer.
     if (QFileInfo(name).isFile())
         inputStream.open(QFile::encodeName(name).toStdString(), std::ios::in | std::ios::binary);

@@ -68,6 +68,10 @@ private Q_SLOTS:
                                 "  zero : { topMargin = 0; };"
                                 "  negative : { topMargin = -2; };"
                                 "  word : { topMargin = three; };"
+                                "  blanks : { topMargin = \" 2 \"; };"
+                                "  octal : { topMargin = 010; };"
+                                "  hexadecimal : { topMargin = 0x3; };"
+                                "  huge : { topMargin = 4294967297; };"
                                 "};");
         home.enter();
     }
@@ -230,6 +234,12 @@ private Q_SLOTS:
         QTest::newRow("negative") << true << u"tavolux.negative."_s << QStringList();
         QTest::newRow("no number") << true << u"tavolux.word."_s << QStringList();
         QTest::newRow("missing") << true << u"tavolux.none."_s << QStringList();
+        QTest::newRow("surrounding blanks")
+            << true << u"tavolux.blanks."_s << calls({"println||", "println||"});
+        QTest::newRow("leading zero is no octal")
+            << true << u"tavolux.octal."_s << QStringList(10, u"println||"_s);
+        QTest::newRow("hexadecimal") << true << u"tavolux.hexadecimal."_s << QStringList();
+        QTest::newRow("wider than a number") << true << u"tavolux.huge."_s << QStringList();
     }
 
     void topMargin()

@@ -1,5 +1,6 @@
 #include "captured_diagnostics.h"
 #include "company_printer_driver.h"
+#include "file_size_limit.h"
 #include "recording_driver.h"
 #include "sync_singleton.h"
 #include "temporary_home.h"
@@ -179,6 +180,28 @@ private Q_SLOTS:
         }
         QCOMPARE(diagnostics.text(),
                  "Error in the method PrinterDriver::print( /dev/full ): No space left on device\n"_ba);
+    }
+
+    // Not even when there is room again: a printout with a gap in it would look whole.
+    void nothingIsWrittenBehindAFailure()
+    {
+        const QString path = home.filePath(u"output"_s);
+        const QByteArray failure =
+            "Error in the method PrinterDriver::print( " + QFile::encodeName(path) + " ): File too large\n";
+        const CapturedDiagnostics diagnostics;
+        {
+            CompanyPrinterDriver driver(path, false);
+            {
+                const FileSizeLimit limit(10);
+                for (int line = 0; line < 10'000; ++line)
+                    driver.println(u"a line that finds no room"_s);
+            }
+            QCOMPARE(diagnostics.text(), failure);
+            for (int line = 0; line < 10'000; ++line)
+                driver.println(u"a line that would find it"_s);
+        }
+        QCOMPARE(diagnostics.text(), failure);
+        QCOMPARE(fileBytes(path), "a line tha"_ba);
     }
 
     void nothingWrittenToAFullDeviceIsNoError()
@@ -382,6 +405,39 @@ private Q_SLOTS:
             driver.printSeparatorLine();
         }
         QCOMPARE(fileBytes(path), "==================================\n"_ba);
+    }
+
+    void settingsAreReadInTheirOrder()
+    {
+        QStringList asked;
+        DocumentProfile::load([&](QLatin1StringView setting) {
+            asked += setting;
+            return QString();
+        });
+        QCOMPARE(asked,
+                 calls({"quantityFieldWidth",
+                        "priceFieldWidth",
+                        "totalPriceFieldWidth",
+                        "paperWidth",
+                        "paperRows",
+                        "style",
+                        "printGeometry",
+                        "printHeader",
+                        "printLogo",
+                        "printCompany",
+                        "printDeliveryAddress",
+                        "printBillingAddress",
+                        "printTelephone",
+                        "printDate",
+                        "printTime",
+                        "printTable",
+                        "printCustomer",
+                        "printLicenseNumber",
+                        "printFiscalCode",
+                        "printCredit",
+                        "printWaiter",
+                        "printNote",
+                        "openCashDrawer"}));
     }
 
     void laterProfileReplacesAllOfAnEarlierOne()

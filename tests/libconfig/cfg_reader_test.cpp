@@ -3,6 +3,7 @@
 #include "temporary_home.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <sys/fsuid.h>
@@ -242,6 +243,7 @@ private Q_SLOTS:
     void namelessStatementsDoNoHarm()
     {
         QFETCH(const QByteArray, statement);
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
         const TemporaryHome home;
         const QString file =
             home.writeFile(u"tavolux.conf"_s, "s : { a = 1; " + statement + " b = 2; }; " + statement);
@@ -283,8 +285,8 @@ private Q_SLOTS:
         libconfig::Config config(file, u"cfg"_s);
         QCOMPARE(config.lookup(keyAtDepth(deepest, u"k"_s)), u"v"_s);
         QCOMPARE(config.lookup(keyAtDepth(deepest + 1, u"k"_s)), QString());
-        QCOMPARE(config.lookup(keyAtDepth(deepest, u"deepest"_s)), QString());
-        QCOMPARE(config.lookup(keyAtDepth(depth, u"deepest"_s)), QString());
+        for (const int level : {deepest, deepest + 1, depth})
+            QCOMPARE(config.lookup(keyAtDepth(level, u"deepest"_s)), QString());
         QVERIFY(!printedSections(config).contains("behind"));
 
         // The next file starts at the top again.
@@ -324,8 +326,8 @@ private Q_SLOTS:
         home.makeFifo(u"fifo"_s);
         QVERIFY(QFile::link(home.filePath(u"missing"_s), home.filePath(u"link"_s)));
         QVERIFY(QFile::setPermissions(home.writeFile(u"secret"_s, "s : { k = v; };"), {}));
-        for (const QString &open : {home.path(), home.path() + "/.."_L1, home.filePath(u"fifo"_s)})
-            QCOMPARE(chmod(QFile::encodeName(open).constData(), 0755), 0);
+        for (const QString &folder : {home.path(), home.path() + "/.."_L1})
+            QCOMPARE(chmod(QFile::encodeName(folder).constData(), 0755), 0);
 
         const QString file = home.filePath(name);
         libconfig::Config config;
@@ -369,6 +371,19 @@ private Q_SLOTS:
         QVERIFY(config.jump('\xFF'));
         QVERIFY(!config.jump('{'));
         QVERIFY(!config.jump(';'));
+    }
+
+    void onlyABraceAtTheTopLeavesTheFileOpen()
+    {
+        const TemporaryHome home;
+        SteppedConfig config;
+        config.readFile(home.writeFile(u"brace"_s, "s : { k = v; }; } ; text {"), u"cfg"_s);
+        QVERIFY(config.jump('{'));
+
+        const QString whole = home.writeFile(u"whole"_s, "s : { k = v; };");
+        config.readFile(whole, u"cfg"_s);
+        home.writeFile(u"whole"_s, "s : { k = v; }; text {");
+        QVERIFY(!config.jump('{'));
     }
 
     void nothingIsReadWithoutAnOpenFile()

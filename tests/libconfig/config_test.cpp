@@ -104,6 +104,7 @@ private Q_SLOTS:
         QTest::newRow("cfg in capitals") << cfg << u"CFG"_s << QString();
         QTest::newRow("xml in capitals") << xml << u"Xml"_s << QString();
         QTest::newRow("blank behind the kind") << cfg << u"cfg "_s << QString();
+        QTest::newRow("blank behind the other kind") << xml << u"xml "_s << QString();
     }
 
     void kind()

@@ -271,8 +271,11 @@ private Q_SLOTS:
         QFETCH(const Writer, writer);
         const TemporaryHome home;
         const QString file = home.writeFile(u"caff\u00E8 \u20AC.conf"_s, example);
-        QVERIFY((libconfig::Config(file, u"cfg"_s).*writer)(QString()));
-        QTEST(fileBytes(file), "text");
+        for (const QString &name : {QString(), u""_s}) {
+            home.writeFile(u"caff\u00E8 \u20AC.conf"_s, example);
+            QVERIFY((libconfig::Config(file, u"cfg"_s).*writer)(name));
+            QTEST(fileBytes(file), "text");
+        }
     }
 
     void writtenFileReadsBackTheSame_data()
@@ -443,6 +446,23 @@ private Q_SLOTS:
         QVERIFY(!whole);
         QCOMPARE(fileBytes(file), example);
         // Nor is anything left beside it.
+        QCOMPARE(QDir(home.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
+                 QStringList(u"tavolux.conf"_s));
+    }
+
+    void fullDiskLeavesNoPartOfANewFile_data() { addWriters(); }
+
+    void fullDiskLeavesNoPartOfANewFile()
+    {
+        QFETCH(const Writer, writer);
+        const TemporaryHome home;
+        const libconfig::Config config(home.writeFile(u"tavolux.conf"_s, example), u"cfg"_s);
+        bool whole = true;
+        {
+            const FileSizeLimit limit(100);
+            whole = (config.*writer)(home.filePath(u"written"_s));
+        }
+        QVERIFY(!whole);
         QCOMPARE(QDir(home.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
                  QStringList(u"tavolux.conf"_s));
     }

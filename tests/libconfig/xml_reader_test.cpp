@@ -53,6 +53,7 @@ private Q_SLOTS:
         row("comment first, child of the root element", "<!-- r --><r><s k=\"v\"/></r>", u"s.k"_s, {});
 
         row("cut off", "<s k=\"v\">", u"s.k"_s, {});
+        row("cut off behind an element", "<r><s k=\"v\"/>", u"s.k"_s, {});
         row("second root element", "<s k=\"v\"/><t/>", u"s.k"_s, {});
         row("text behind the root element", "<s k=\"v\"/>text", u"s.k"_s, {});
         row("attribute given twice", "<s k=\"v\" k=\"w\"/>", u"s.k"_s, {});

@@ -4,25 +4,29 @@
 
 #include <sys/resource.h>
 
-/* While it lives no file of this process can grow beyond so many bytes: writing fails as on a full disk. */
+/* As long as it lives, no file of this process grows beyond so many bytes: writing more fails as on a full
+ * disk. */
 class FileSizeLimit
 {
 public:
     explicit FileSizeLimit(rlim_t bytes)
+        : handlerBefore(std::signal(SIGXFSZ, SIG_IGN))
     {
         getrlimit(RLIMIT_FSIZE, &before);
         const rlimit limit = {bytes, before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
     }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
     ~FileSizeLimit()
     {
         setrlimit(RLIMIT_FSIZE, &before);
         std::signal(SIGXFSZ, handlerBefore);
     }
 
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
 private:
     rlimit before = {};
-    sighandler_t handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+    void (*handlerBefore)(int);
 };
