@@ -28,6 +28,8 @@ elseif(CMAKE_BUILD_TYPE STREQUAL "Release")
   add_compile_options(-fstack-protector-strong -fstack-clash-protection -Wformat -Werror=format-security)
   add_compile_definitions(_FORTIFY_SOURCE=2)
   add_link_options(-Wl,-z,relro -Wl,-z,now)
+  # Seen across files, the toolkit's hash seems to allocate without bound.
+  add_link_options(-Wno-alloc-size-larger-than)
 endif()
 
 # Only the libraries that a program really uses are loaded when it starts.
