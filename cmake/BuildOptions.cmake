@@ -32,6 +32,8 @@ elseif(CMAKE_BUILD_TYPE STREQUAL "Release")
   # tells classes apart by the address of such data: its casts would fail.
   add_compile_options($<$<CXX_COMPILER_ID:GNU>:-mno-direct-extern-access>)
   add_link_options($<$<CXX_COMPILER_ID:GNU>:-mno-direct-extern-access>)
+  # Seen across files, the toolkit's hash seems to allocate without bound.
+  add_link_options(-Wno-alloc-size-larger-than)
 endif()
 
 # Only the libraries that a program really uses are loaded when it starts.
