@@ -29,6 +29,7 @@ private Q_SLOTS:
                                 "  narrow : { descriptionWidth = 5; };"
                                 "  zero : { descriptionWidth = 0; };"
                                 "  word : { descriptionWidth = wide; };"
+                                "  negative : { descriptionWidth = -5; };"
                                 "};");
         home.enter();
     }
@@ -102,6 +103,8 @@ private Q_SLOTS:
             << u"tavolux.zero."_s << 34U << u"Spaghetti alle vongole veraci, sen"_s;
         QTest::newRow("no number: the device's")
             << u"tavolux.word."_s << 34U << u"Spaghetti alle vongole veraci, sen"_s;
+        QTest::newRow("negative: not cut")
+            << u"tavolux.negative."_s << 34U << u"Spaghetti alle vongole veraci, senza p"_s;
     }
 
     void descriptionWidth()

@@ -196,6 +196,34 @@ private Q_SLOTS:
         QCOMPARE(recordedCalls(profile, &PrinterDriver::printFullOrderDelivery, elements), expected);
     }
 
+    // A printer with partial orders of its own gets everything else of a delivery as well.
+    void customerOfADeliveryIsNoPartialOrders()
+    {
+        class OwnPartialOrders : public RecordingDriver
+        {
+        public:
+            void printPartialOrder(const QString &qName, const QXmlAttributes &attributes) override
+            {
+                note(u"printPartialOrder"_s, {qName, attributes.value(u"name"_s)});
+            }
+        };
+
+        OwnPartialOrders driver;
+        driver.profile = profile;
+        readElements("<orderinfo/><customer name='Rossi'/><receipe name='Pizza'/>",
+                     [&](const QString &qName, const QXmlAttributes &attributes) {
+                         driver.printFullOrderDelivery(qName, attributes);
+                     });
+        QCOMPARE(driver.calls,
+                 calls({
+                     "printPartialOrder|orderinfo||",
+                     "println|CUSTOMER|",
+                     "println 1|Rossi|",
+                     "printSeparatorLine",
+                     "printPartialOrder|receipe|Pizza|",
+                 }));
+    }
+
     void customerNeedsItsSwitch()
     {
         const QByteArray customer = "<customer name='Rossi'/>";
