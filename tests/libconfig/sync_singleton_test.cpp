@@ -8,7 +8,7 @@
 
 #include <atomic>
 #include <barrier>
-#include <cstdlib>
+#include <functional>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -21,21 +21,26 @@ namespace {
 
 constexpr int threadCount = 16;
 
+/* Does the work in several threads at once, each with its number, and waits for all of them. */
+void inThreads(const std::function<void(std::size_t)> &work)
+{
+    std::vector<std::thread> threads(threadCount);
+    for (std::size_t i = 0; i < threads.size(); ++i)
+        threads[i] = std::thread(work, i);
+    for (std::thread &thread : threads)
+        thread.join();
+}
+
 /* What each of several threads gets that all ask at the same moment. */
 template <typename T>
 std::vector<T *> instancesOfThreads()
 {
     std::vector<T *> instances(threadCount);
-    std::vector<std::thread> threads;
     std::barrier start(threadCount);
-    for (T *&instance : instances) {
-        threads.emplace_back([&] {
-            start.arrive_and_wait();
-            instance = &SyncSingleton<T>::instance();
-        });
-    }
-    for (std::thread &thread : threads)
-        thread.join();
+    inThreads([&](std::size_t i) {
+        start.arrive_and_wait();
+        instances[i] = &SyncSingleton<T>::instance();
+    });
     return instances;
 }
 
@@ -109,19 +114,13 @@ private Q_SLOTS:
     void laterThreadsSeeAllOfTheInstance()
     {
         std::atomic<int> seen = 0;
-        std::vector<std::thread> threads;
-        for (int i = 1; i < threadCount; ++i) {
-            threads.emplace_back([&] {
-                while (!Announced::constructed.load(std::memory_order_relaxed))
-                    std::this_thread::yield();
-                for (int turn = 0; turn < 100; ++turn) // until it is published
-                    std::this_thread::yield();
-                seen += SyncSingleton<Announced>::instance().value;
-            });
-        }
-        seen += SyncSingleton<Announced>::instance().value;
-        for (std::thread &thread : threads)
-            thread.join();
+        inThreads([&](std::size_t i) {
+            while (i > 0 && !Announced::constructed.load(std::memory_order_relaxed))
+                std::this_thread::yield();
+            for (int turn = 0; i > 0 && turn < 100; ++turn) // until it is published
+                std::this_thread::yield();
+            seen += SyncSingleton<Announced>::instance().value;
+        });
         QCOMPARE(seen.load(), threadCount * 17);
     }
 
@@ -158,17 +157,13 @@ private Q_SLOTS:
     void threadsLookUpAtTheSameTime()
     {
         const TemporaryHome home;
-        libconfig::Config config(home.writeFile(u"tavolux.conf"_s, "s : { t : { k = v; }; };"), u"cfg"_s);
+        const libconfig::Config config(home.writeFile(u"tavolux.conf"_s, "s : { t : { k = v; }; };"),
+                                       u"cfg"_s);
         std::atomic<int> found = 0;
-        std::vector<std::thread> threads;
-        for (int i = 0; i < threadCount; ++i) {
-            threads.emplace_back([&] {
-                for (int j = 0; j < 100; ++j)
-                    found += config.lookup(u"s.t.k"_s) == "v"_L1;
-            });
-        }
-        for (std::thread &thread : threads)
-            thread.join();
+        inThreads([&](std::size_t) {
+            for (int j = 0; j < 100; ++j)
+                found += config.lookup(u"s.t.k"_s) == "v"_L1;
+        });
         QCOMPARE(found.load(), threadCount * 100);
     }
 
