@@ -28,12 +28,6 @@ elseif(CMAKE_BUILD_TYPE STREQUAL "Release")
   add_compile_options(-fstack-protector-strong -fstack-clash-protection -Wformat -Werror=format-security)
   add_compile_definitions(_FORTIFY_SOURCE=2)
   add_link_options(-Wl,-z,relro -Wl,-z,now)
-  # Optimising across files, the compiler would otherwise copy the libraries' data into the program, and the toolkit
-  # tells classes apart by the address of such data: its casts would fail.
-  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-mno-direct-extern-access>)
-  add_link_options($<$<CXX_COMPILER_ID:GNU>:-mno-direct-extern-access>)
-  # Seen across files, the toolkit's hash seems to allocate without bound.
-  add_link_options(-Wno-alloc-size-larger-than)
 endif()
 
 # Only the libraries that a program really uses are loaded when it starts.
