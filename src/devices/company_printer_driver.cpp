@@ -28,7 +28,8 @@ void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
     qsizetype blanks = justification == Justification::center ? (width - text.size()) / 2 : indent;
     if (width < text.size())
         blanks = 0;
-    write(QString(blanks, u' '));
+    if (blanks > 0)
+        write(QString(blanks, u' '));
     write(text);
 }
 

@@ -1,5 +1,7 @@
 #include "printer_driver.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -12,12 +14,10 @@ constexpr QChar blank = u' ';
 class Row
 {
 public:
-    explicit Row(qsizetype expectedLength) { text.reserve(std::max<qsizetype>(expectedLength, 0)); }
-
     /* A text in as many characters as it takes. */
     Row &as(QStringView column)
     {
-        text += column;
+        text.append(column.data(), column.size());
         return *this;
     }
 
@@ -37,7 +37,7 @@ public:
         return left(column.first(std::clamp<qsizetype>(width, 0, column.size())), width, fill);
     }
 
-    operator QString() const { return text; }
+    operator QString() const { return QString(text.data(), text.size()); }
 
 private:
     Row &pad(qsizetype count, QChar fill)
@@ -47,7 +47,7 @@ private:
         return *this;
     }
 
-    QString text;
+    QVarLengthArray<QChar, 128> text; // longer than most papers are wide
 };
 
 } // namespace
@@ -64,21 +64,21 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
     // Meant so: the quantity, and the total behind a price, are padded with blanks whatever the fill; "qd"
     // and "date-amount-type" end short of the paper.
     if (format == "qdpt"_L1)
-        return Row(width)
+        return Row()
             .right(quantity, quantityWidth, blank)
             .as(u" ")
             .cut(description, width - quantityWidth - priceWidth - totalWidth - 1, fill)
             .right(price, priceWidth, fill)
             .right(totalPrice, totalWidth, blank);
     if (format == "qxdpt"_L1)
-        return Row(width)
+        return Row()
             .right(quantity, quantityWidth, blank)
             .as(u" x ")
             .cut(description, width - quantityWidth - priceWidth - totalWidth - 3, fill)
             .right(price, priceWidth, fill)
             .right(totalPrice, totalWidth, blank);
     if (format == "qxdtDoubleLine"_L1)
-        return Row(width)
+        return Row()
             .as(quantity)
             .as(u" x ")
             .as(price)
@@ -86,17 +86,17 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
             .cut(description, width - totalWidth, fill)
             .right(totalPrice, totalWidth, fill);
     if (format == "qxd"_L1)
-        return Row(width)
+        return Row()
             .right(quantity, quantityWidth, blank)
             .as(u" x ")
             .cut(description, width - quantityWidth - 3, fill);
     if (format == "qd"_L1)
-        return Row(width)
+        return Row()
             .right(quantity, quantityWidth, blank)
             .as(u" ")
             .cut(description, width - quantityWidth - 3, blank);
     if (format == "date-amount-type"_L1)
-        return Row(width)
+        return Row()
             .left(quantity, 15, blank)
             .cut(description, width - 15 - priceWidth - 3, fill)
             .right(price, priceWidth, fill);
