@@ -8,8 +8,6 @@
 
 #include <memory>
 
-#include <sys/stat.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -216,8 +214,7 @@ private Q_SLOTS:
 
         verify({}, userFile() + ": No such file or directory"_L1);
         verify({u"--file"_s, home->path()}, home->path() + ": it is no regular file"_L1);
-        const QString pipe = home->filePath(u"pipe"_s); // reading it would wait for a writer
-        QCOMPARE(::mkfifo(pipe.toLatin1().constData(), 0600), 0);
+        const QString pipe = home->makeFifo(u"pipe"_s); // reading it would wait for a writer
         verify({u"--file"_s, pipe}, pipe + ": it is no regular file"_L1);
     }
 
