@@ -29,7 +29,7 @@ void EditorProgramTest::answersWithoutDisplay()
 {
     QFETCH(QString, option);
     QFETCH(QByteArray, answer);
-    const ProgramResult result = runProgram(QStringLiteral(EDITOR_PROGRAM), {option},
+    const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), {option},
                                             {{u"QT_QPA_PLATFORM"_s, u"xcb"_s}, {u"DISPLAY"_s, QString()}});
     QVERIFY(!result.crashed);
     QCOMPARE(result.exitStatus, 0);
@@ -56,7 +56,7 @@ void EditorProgramTest::refusesWrongArguments()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QByteArray, message);
-    const ProgramResult result = runProgram(QStringLiteral(EDITOR_PROGRAM), arguments);
+    const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), arguments);
     QVERIFY(!result.crashed);
     QCOMPARE(result.exitStatus, 1);
     QCOMPARE(result.standardOutput, QByteArray());
