@@ -27,8 +27,8 @@ void EditorProgramTest::answersWithoutDisplay_data()
 
 void EditorProgramTest::answersWithoutDisplay()
 {
-    QFETCH(QString, option);
-    QFETCH(QByteArray, answer);
+    QFETCH(const QString, option);
+    QFETCH(const QByteArray, answer);
     const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), {option},
                                             {{u"QT_QPA_PLATFORM"_s, u"xcb"_s}, {u"DISPLAY"_s, QString()}});
     QVERIFY(!result.crashed);
@@ -54,8 +54,8 @@ void EditorProgramTest::refusesWrongArguments_data()
 
 void EditorProgramTest::refusesWrongArguments()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, message);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QByteArray, message);
     const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), arguments);
     QVERIFY(!result.crashed);
     QCOMPARE(result.exitStatus, 1);
