@@ -74,10 +74,3 @@ bool PrinterDriver::endElement(const QString &, const QString &, const QString &
 {
     return true;
 }
-
-bool PrinterDriver::oneTime()
-{
-    const bool first = !oneTimeDone;
-    oneTimeDone = true;
-    return first;
-}
