@@ -36,7 +36,7 @@ public:
 
     void printGeometry(const QXmlAttributes &attributes) override
     {
-        if (configuration.getStrValue(documentPrefix + "topMargin"_L1).toInt() <= enough)
+        if (configuration.getStrValue(documentPrefix + DocumentProfile::topMargin).toInt() <= enough)
             CompanyPrinterDriver::printGeometry(attributes);
     }
 

@@ -64,6 +64,7 @@ void PrinterDriver::printPartialOrder(const QString &qName, const QXmlAttributes
 
 void PrinterDriver::printFullOrderDelivery(const QString &qName, const QXmlAttributes &attributes)
 {
+    // The customer is not left to the partial order, which a printer may have of its own.
     if (qName == "customer"_L1)
         printCustomerHeader(attributes);
     else

@@ -83,7 +83,7 @@ public:
     {
         printHeading(QObject::tr("CANCELLED DOC SUMMARY"));
         printFigure(QObject::tr("Number"), u"number"_s);
-        printFigure(QObject::tr("TOTAL"), u"totals"_s); // not "total", as in the other summaries
+        printFigure(QObject::tr("TOTAL"), u"totals"_s); // Meant so: the other summaries have "total".
         driver.setBold();
         driver.println(QString());
         printCancelledRow(QObject::tr("SERIAL"), QObject::tr("TOTAL"), QObject::tr("TAXRATE"));
@@ -143,10 +143,10 @@ struct ReportBlock
     void (SummaryReport::*print)();
 };
 
+// Meant so: "prefiscalssummary" has a doubled "s".
 constexpr ReportBlock reportBlocks[] = {
     {"date"_L1, &SummaryReport::printTitle},
-    {"prefiscalssummary"_L1,
-     &SummaryReport::printPrefiscals}, // with its doubled "s", as the application writes it
+    {"prefiscalssummary"_L1, &SummaryReport::printPrefiscals},
     {"receiptssummary"_L1, &SummaryReport::printReceipts},
     {"taxrate_item"_L1, &SummaryReport::printTaxRate},
     {"invoicessummary"_L1, &SummaryReport::printInvoices},

@@ -17,8 +17,8 @@ struct PrinterDriver::DocumentMethod
 
 const PrinterDriver::DocumentMethod *PrinterDriver::documentMethod(const QString &name)
 {
-    // The full order prints with the pre-fiscal profile, and the statement of account with the report's: both
-    // are meant.
+    // Meant so: the full order prints with the pre-fiscal profile, and the statement of account with the
+    // report's.
     static constexpr DocumentMethod methods[] = {
         {"printPartialOrder"_L1, "order"_L1, {}, &PrinterDriver::printPartialOrder},
         {"printFullOrder"_L1, "prefiscal"_L1, {}, &PrinterDriver::printFullOrder},
@@ -73,11 +73,4 @@ bool PrinterDriver::startElement(const QString &, const QString &, const QString
 bool PrinterDriver::endElement(const QString &, const QString &, const QString &)
 {
     return true;
-}
-
-bool PrinterDriver::oneTime()
-{
-    const bool first = !oneTimeDone;
-    oneTimeDone = true;
-    return first;
 }

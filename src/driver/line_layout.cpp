@@ -103,6 +103,13 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
     return {};
 }
 
+bool PrinterDriver::oneTime()
+{
+    const bool first = !oneTimeDone;
+    oneTimeDone = true;
+    return first;
+}
+
 void PrinterDriver::printColumnsHeader(const QString &quantity, const QString &description,
                                        const QString &price, const QString &totalPrice)
 {

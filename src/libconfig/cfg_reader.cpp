@@ -73,10 +73,10 @@ void Config::loadFile()
 {
     // Without a file the stream is at its end from the start, and the store stays empty.
     openFile();
+    // Comes first: a document in which nothing was created is a null node, which takes no children.
     const QDomElement root = document->createElement(fileName);
-    const bool endedByBrace =
-        readStatements(root, *document); // a document is null until something was created in it
-    if (!endedByBrace)
+    const bool endedByBrace = readStatements(root, *document);
+    if (!endedByBrace) // Meant so: behind a brace that closes no section the stream stays open.
         closeFile();
 }
 

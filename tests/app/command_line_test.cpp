@@ -80,15 +80,6 @@ std::function<void()> withFileSizeLimit(rlim_t bytes)
     };
 }
 
-/* For beforeStart: the program starts in the folder. */
-std::function<void()> inFolder(const QString &folder)
-{
-    return [path = QFile::encodeName(folder)] {
-        if (chdir(path.constData()) != 0)
-            _exit(99);
-    };
-}
-
 /* For beforeStart: standard output is a pipe that nobody reads. */
 void closePipe()
 {

@@ -14,36 +14,24 @@ void addVariantRows()
     QTest::addColumn<QByteArray>("attribute");
     QTest::addColumn<QByteArray>("sign");
 
-    QTest::newRow("0") << "quantity='0'"_ba
-                       << "-"_ba;
-    QTest::newRow("minus 0") << "quantity='-0'"_ba
-                             << "-"_ba;
-    QTest::newRow("-1") << "quantity='-1'"_ba
-                        << "-"_ba;
-    QTest::newRow("-1.0") << "quantity='-1.0'"_ba
-                          << "-"_ba;
-    QTest::newRow("1") << "quantity='1'"_ba
-                       << "+"_ba;
-    QTest::newRow("1.0") << "quantity='1.0'"_ba
-                         << "+"_ba;
-    QTest::newRow("1e0") << "quantity='1e0'"_ba
-                         << "+"_ba;
-    QTest::newRow("2") << "quantity='2'"_ba
-                       << "2"_ba;
-    QTest::newRow("2.50 stays as written") << "quantity='2.50'"_ba
-                                           << "2.50"_ba;
-    QTest::newRow("-2") << "quantity='-2'"_ba
-                        << "-2"_ba;
-    QTest::newRow("0.5") << "quantity='0.5'"_ba
-                         << "0.5"_ba;
-    QTest::newRow("missing") << ""_ba
-                             << "-"_ba;
-    QTest::newRow("empty") << "quantity=''"_ba
-                           << "-"_ba;
-    QTest::newRow("no number") << "quantity='two'"_ba
-                               << "-"_ba;
-    QTest::newRow("comma, which is no decimal point") << "quantity='1,0'"_ba
-                                                      << "-"_ba;
+    const auto row = [](const char *name, const QByteArray &attribute, const QByteArray &sign) {
+        QTest::newRow(name) << attribute << sign;
+    };
+    row("0", "quantity='0'", "-");
+    row("minus 0", "quantity='-0'", "-");
+    row("-1", "quantity='-1'", "-");
+    row("-1.0", "quantity='-1.0'", "-");
+    row("1", "quantity='1'", "+");
+    row("1.0", "quantity='1.0'", "+");
+    row("1e0", "quantity='1e0'", "+");
+    row("2", "quantity='2'", "2");
+    row("2.50 stays as written", "quantity='2.50'", "2.50");
+    row("-2", "quantity='-2'", "-2");
+    row("0.5", "quantity='0.5'", "0.5");
+    row("missing", "", "-");
+    row("empty", "quantity=''", "-");
+    row("no number", "quantity='two'", "-");
+    row("comma, which is no decimal point", "quantity='1,0'", "-");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "captured_diagnostics.h"
+#include "captured_output.h"
 #include "company_printer_driver.h"
 #include "recording_driver.h"
 #include "routine_run.h"
@@ -222,7 +222,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, method);
 
         DispatchRecorder driver;
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         QVERIFY(!readDocument("<order>" + method + "<receipe name='Pizza'/></order>", driver));
         QCOMPARE(diagnostics.text(), "File Format Not Supported\n"_ba);
         QCOMPARE(driver.calls, calls({"reset"})); // no section, neither begun nor ended
@@ -231,7 +231,7 @@ private Q_SLOTS:
     void unknownMethodAfterAKnownOne()
     {
         DispatchRecorder driver;
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         QVERIFY(startElement(driver, u"method"_s, u"printFullOrderInvoice"_s));
         QVERIFY(!startElement(driver, u"method"_s, u"printfullorderinvoice"_s));
         // A reader that went on would print nothing more.
@@ -299,7 +299,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, document);
         QFETCH(const QByteArray, expected);
 
-        const CapturedDiagnostics ignored;
+        const CapturedOutput ignored;
         const QString paper = home.filePath(u"paper"_s);
         {
             CompanyPrinterDriver driver(paper, false);

@@ -1,4 +1,4 @@
-#include "captured_diagnostics.h"
+#include "captured_output.h"
 #include "company_printer_driver.h"
 #include "file_size_limit.h"
 #include "recording_driver.h"
@@ -145,7 +145,7 @@ private Q_SLOTS:
     void outputThatCannotBeOpened()
     {
         const QString path = home.filePath(u"missing/output"_s);
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         {
             CompanyPrinterDriver driver(path, false);
             driver.loadValues(u"receipt"_s);
@@ -172,7 +172,7 @@ private Q_SLOTS:
     void outputThatCannotBeWritten()
     {
         QFETCH(const int, lines);
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         {
             CompanyPrinterDriver driver(u"/dev/full"_s, false);
             for (int line = 0; line < lines; ++line)
@@ -188,7 +188,7 @@ private Q_SLOTS:
         const QString path = home.filePath(u"output"_s);
         const QByteArray failure =
             "Error in the method PrinterDriver::print( " + QFile::encodeName(path) + " ): File too large\n";
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         {
             CompanyPrinterDriver driver(path, false);
             {
@@ -206,7 +206,7 @@ private Q_SLOTS:
 
     void nothingWrittenToAFullDeviceIsNoError()
     {
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         {
             const CompanyPrinterDriver driver(u"/dev/full"_s, false);
         }
@@ -236,7 +236,7 @@ private Q_SLOTS:
         QFETCH(const QString, prefix);
 
         const RecordingDriver driver;
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         QCOMPARE(driver.documentPath(type), prefix);
         QCOMPARE(diagnostics.text(), ""_ba);
     }
@@ -259,7 +259,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, named);
 
         const RecordingDriver driver;
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         QCOMPARE(driver.documentPath(type), u"tavolux.prefiscaldoc."_s);
         QCOMPARE(diagnostics.text(), "Error into PrinterDriver::documentPath:  " + named + "\n");
     }
@@ -468,7 +468,7 @@ private Q_SLOTS:
     {
         configure("tavolux : { doc : { paperWidth = 20; }; prefiscaldoc : { paperWidth = 50; }; };");
         RecordingDriver driver;
-        const CapturedDiagnostics diagnostics;
+        const CapturedOutput diagnostics;
         driver.loadValues(u"bill"_s);
         QCOMPARE(driver.profile.paperWidth, 50);
         QCOMPARE(diagnostics.text(), "Error into PrinterDriver::documentPath:  bill\n"_ba);

@@ -208,9 +208,9 @@ void ConfigTreeViewTest::isSavedAsWritten_data()
 
 void ConfigTreeViewTest::isSavedAsWritten()
 {
-    QFETCH(QString, kind);
-    QFETCH(QByteArray, read);
-    QFETCH(QByteArray, written);
+    QFETCH(const QString, kind);
+    QFETCH(const QByteArray, read);
+    QFETCH(const QByteArray, written);
     const QString file = home.writeFile(u"saved"_s, read);
     Config config(file, kind);
     QVERIFY(config.loadListView(viewOf(config).get()));
@@ -286,8 +286,8 @@ void ConfigTreeViewTest::leavesOutWhatLostItsValue_data()
 
 void ConfigTreeViewTest::leavesOutWhatLostItsValue()
 {
-    QFETCH(QStringList, names);
-    QFETCH(QByteArray, settings);
+    QFETCH(const QStringList, names);
+    QFETCH(const QByteArray, settings);
     const QString file = home.writeFile(u"a.conf"_s, "s : { a = 1; b = 2; };");
     Config config(file, u"cfg"_s);
     const std::unique_ptr<QTreeWidget> view = viewOf(config);

@@ -351,7 +351,7 @@ private Q_SLOTS:
         QCOMPARE(tree(config), "Tree \n" + file.toLatin1() + "\ns\nk = v\n");
     }
 
-    void xmlReadsBackUnlessSettingsStandOutside_data()
+    void xmlReadsBackWhileItIsWellFormed_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("value");
@@ -360,7 +360,7 @@ private Q_SLOTS:
         QTest::newRow("ampersand") << QByteArray("s : { t : { k = &; }; };") << QString();
     }
 
-    void xmlReadsBackUnlessSettingsStandOutside()
+    void xmlReadsBackWhileItIsWellFormed()
     {
         QFETCH(const QByteArray, text);
         const TemporaryHome home;

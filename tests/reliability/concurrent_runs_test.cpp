@@ -173,13 +173,9 @@ private Q_SLOTS:
             "cp tavolux.conf small || exit 126\n"
             "\"$1\" small/tavolux.conf 1 \"$2\"\n"
             "echo $?; ls -A small; cat small/tavolux.conf"_s;
-        const QByteArray folder = home.path().toUtf8();
         const ProgramResult result =
             runProgram(u"unshare"_s, {u"-m"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, saveConfiguration, large},
-                       {}, {}, [&folder] {
-                           if (chdir(folder.constData()) != 0)
-                               _exit(127);
-                       });
+                       {}, {}, inFolder(home.path()));
         QCOMPARE(misbehaviour(result), QByteArray());
         QCOMPARE(result.standardOutput, "1\ntavolux.conf\ns : { k = v; };"_ba);
     }

@@ -342,11 +342,7 @@ private Q_SLOTS:
         ListeningPort port;
         run.home.writeFile(u"document.xml"_s,
                            text.replace("%FILE", secret.toUtf8()).replace("%URL", port.url()));
-        const QByteArray folder = run.home.path().toUtf8();
-        run.beforeStart = [&folder] {
-            if (chdir(folder.constData()) != 0)
-                _exit(127);
-        };
+        run.beforeStart = inFolder(run.home.path());
 
         OpenWatch watch(secret);
         verifyPrints(run, printed);

@@ -156,11 +156,7 @@ bool canMount()
 {
     const QString mount = u"mkdir mounted && mount -t tmpfs tmpfs mounted"_s;
     const TemporaryHome home;
-    const QByteArray folder = home.path().toLocal8Bit();
     const ProgramResult result =
-        runProgram(u"unshare"_s, {u"-m"_s, u"sh"_s, u"-c"_s, mount}, {}, {}, [&folder] {
-            if (chdir(folder.constData()) != 0)
-                _exit(127);
-        });
+        runProgram(u"unshare"_s, {u"-m"_s, u"sh"_s, u"-c"_s, mount}, {}, {}, inFolder(home.path()));
     return !result.crashed && result.exitStatus == 0;
 }

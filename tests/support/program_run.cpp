@@ -1,6 +1,9 @@
 #include "program_run.h"
 
+#include <QFile>
 #include <QProcess>
+
+#include <unistd.h>
 
 ProgramResult runProgram(const QString &program, const QStringList &arguments,
                          const QMap<QString, QString> &environment, const QByteArray &standardInput,
@@ -31,4 +34,12 @@ ProgramResult runProgram(const QString &program, const QStringList &arguments,
         process.kill();
     process.waitForFinished();
     return result;
+}
+
+std::function<void()> inFolder(const QString &folder)
+{
+    return [path = QFile::encodeName(folder)] {
+        if (chdir(path.constData()) != 0)
+            _exit(127);
+    };
 }

@@ -25,3 +25,6 @@ struct ProgramResult
 ProgramResult runProgram(const QString &program, const QStringList &arguments,
                          const QMap<QString, QString> &environment = {}, const QByteArray &standardInput = {},
                          const std::function<void()> &beforeStart = {});
+
+/* For the last argument of runProgram: the program starts in the folder. */
+std::function<void()> inFolder(const QString &folder);

@@ -8,8 +8,6 @@
 
 #include <memory>
 
-#include <sys/stat.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -44,7 +42,7 @@ private Q_SLOTS:
     }
     void help()
     {
-        QFETCH(QString, option);
+        QFETCH(const QString, option);
         const ProgramResult result = run({option});
         QCOMPARE(result.exitStatus, 0);
         QCOMPARE(result.standardError, "");
@@ -94,8 +92,8 @@ private Q_SLOTS:
     }
     void wrongUsage()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QByteArray, message);
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QByteArray, message);
         const ProgramResult result = run(arguments);
         QCOMPARE(result.exitStatus, 2);
         QCOMPARE(result.standardOutput, "");
@@ -128,10 +126,10 @@ private Q_SLOTS:
     }
     void get()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QString, kind);
-        QFETCH(QString, key);
-        QFETCH(QByteArray, value);
+        QFETCH(const QByteArray, text);
+        QFETCH(const QString, kind);
+        QFETCH(const QString, key);
+        QFETCH(const QByteArray, value);
         const QString file = home->writeFile(u"some.conf"_s, text);
         const ProgramResult result = run({u"--file"_s, file, u"--type"_s, kind, u"get"_s, key});
         QCOMPARE(result.standardOutput, value + '\n');
@@ -169,7 +167,7 @@ private Q_SLOTS:
     }
     void write()
     {
-        QFETCH(QString, command);
+        QFETCH(const QString, command);
         home->writeConfiguration(configurationText);
         const QString out = home->filePath(u"out"_s);
         const ProgramResult result = run({command, out});
@@ -216,8 +214,7 @@ private Q_SLOTS:
 
         verify({}, userFile() + ": No such file or directory"_L1);
         verify({u"--file"_s, home->path()}, home->path() + ": it is no regular file"_L1);
-        const QString pipe = home->filePath(u"pipe"_s); // reading it would wait for a writer
-        QCOMPARE(::mkfifo(pipe.toLatin1().constData(), 0600), 0);
+        const QString pipe = home->makeFifo(u"pipe"_s); // reading it would wait for a writer
         verify({u"--file"_s, pipe}, pipe + ": it is no regular file"_L1);
     }
 
@@ -286,7 +283,7 @@ private Q_SLOTS:
     }
     void checkOfTheTranslation()
     {
-        QFETCH(QString, locale);
+        QFETCH(const QString, locale);
         QFETCH(QString, basedir);
         QFETCH(QString, file);
         QFETCH(QString, missing);

@@ -228,7 +228,7 @@ private Q_SLOTS:
     }
     void cfg()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(const QByteArray, text);
         QTEST(check(text), "findings");
     }
 
@@ -287,7 +287,7 @@ private Q_SLOTS:
     }
     void xml()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(const QByteArray, text);
         QTEST(check(text, u"xml"_s), "findings");
     }
 
@@ -316,8 +316,8 @@ private Q_SLOTS:
     }
     void roomForDescriptions()
     {
-        QFETCH(QByteArray, section);
-        QFETCH(QStringList, formats);
+        QFETCH(const QByteArray, section);
+        QFETCH(const QStringList, formats);
         ProfiledPrinter printer(home.filePath(u"printed"_s));
         DocumentProfile profile;
         profile.quantityFieldWidth = 3;

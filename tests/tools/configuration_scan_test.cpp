@@ -200,7 +200,7 @@ private Q_SLOTS:
     }
     void cfgStatements()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(const QByteArray, text);
         QTEST(shown(scanCfg(text)), "statements");
     }
 
@@ -235,7 +235,7 @@ private Q_SLOTS:
     }
     void cfgTreeIsTheStores()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(const QByteArray, text);
         QString file = home.writeFile(u"tavolux.conf"_s, text);
         QCOMPARE(Tree(file, scanCfg(text).statements).printed(),
                  printedByStore(libconfig::Config(file, u"cfg"_s)));
@@ -267,7 +267,7 @@ private Q_SLOTS:
     }
     void xmlStatements()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(const QByteArray, text);
         const Scan scan = scanXml(text);
         QCOMPARE(scan.fault, QString());
         QVERIFY(scan.beginsWithRoot);
@@ -292,7 +292,7 @@ private Q_SLOTS:
     }
     void xmlBeginsWithRoot()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(const QByteArray, text);
         const Scan scan = scanXml(text);
         QCOMPARE(scan.fault, QString());
         QTEST(scan.beginsWithRoot, "beginsWithRoot");
@@ -311,7 +311,7 @@ private Q_SLOTS:
     }
     void xmlFaults()
     {
-        QFETCH(QByteArray, text);
+        QFETCH(const QByteArray, text);
         const Scan scan = scanXml(text);
         QVERIFY(!scan.fault.isEmpty());
         QTEST(scan.faultLine, "line");

@@ -27,9 +27,9 @@ void EditorProgramTest::answersWithoutDisplay_data()
 
 void EditorProgramTest::answersWithoutDisplay()
 {
-    QFETCH(QString, option);
-    QFETCH(QByteArray, answer);
-    const ProgramResult result = runProgram(QStringLiteral(EDITOR_PROGRAM), {option},
+    QFETCH(const QString, option);
+    QFETCH(const QByteArray, answer);
+    const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), {option},
                                             {{u"QT_QPA_PLATFORM"_s, u"xcb"_s}, {u"DISPLAY"_s, QString()}});
     QVERIFY(!result.crashed);
     QCOMPARE(result.exitStatus, 0);
@@ -54,9 +54,9 @@ void EditorProgramTest::refusesWrongArguments_data()
 
 void EditorProgramTest::refusesWrongArguments()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, message);
-    const ProgramResult result = runProgram(QStringLiteral(EDITOR_PROGRAM), arguments);
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QByteArray, message);
+    const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), arguments);
     QVERIFY(!result.crashed);
     QCOMPARE(result.exitStatus, 1);
     QCOMPARE(result.standardOutput, QByteArray());

@@ -136,12 +136,12 @@ void EditorSavePreviewTest::tellsWhatSavingChanges_data()
 
 void EditorSavePreviewTest::tellsWhatSavingChanges()
 {
-    QFETCH(QString, readAs);
-    QFETCH(QByteArray, text);
-    QFETCH(QString, key);
-    QFETCH(QString, value);
-    QFETCH(QString, savedAs);
-    QFETCH(QStringList, changes);
+    QFETCH(const QString, readAs);
+    QFETCH(const QByteArray, text);
+    QFETCH(const QString, key);
+    QFETCH(const QString, value);
+    QFETCH(const QString, savedAs);
+    QFETCH(const QStringList, changes);
 
     const Config config(home.writeFile(u"configuration"_s, text), readAs);
     const std::unique_ptr<QTreeWidget> view(config.buildConfigListView());
@@ -199,7 +199,7 @@ void EditorSavePreviewTest::findsWhatIsNoElement_data()
 
 void EditorSavePreviewTest::findsWhatIsNoElement()
 {
-    QFETCH(QByteArray, xml);
+    QFETCH(const QByteArray, xml);
     QTEST(holdsMoreThanElements(xml), "found");
 }
 

@@ -87,7 +87,7 @@ void EditorTreeFilterTest::showsMatchesAndWhatIsAboveThem_data()
 
 void EditorTreeFilterTest::showsMatchesAndWhatIsAboveThem()
 {
-    QFETCH(QString, text);
+    QFETCH(const QString, text);
     TreeFilter filter(*view);
     const QTreeWidgetItem *first = filter.lookFor(text);
     QTEST(visible(), "seen");

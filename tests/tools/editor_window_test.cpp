@@ -243,8 +243,8 @@ void EditorWindowTest::editsByKey_data()
 
 void EditorWindowTest::editsByKey()
 {
-    QFETCH(Qt::Key, key);
-    QFETCH(bool, onName);
+    QFETCH(const Qt::Key, key);
+    QFETCH(const bool, onName);
     open(configuration);
     QTreeWidgetItem *item = value(u"r.receipt.paperWidth"_s);
     view()->setCurrentItem(onName ? item->parent() : item);
@@ -373,9 +373,9 @@ void EditorWindowTest::asksBeforeItCloses_data()
 
 void EditorWindowTest::asksBeforeItCloses()
 {
-    QFETCH(QMessageBox::StandardButton, answer);
-    QFETCH(bool, typing);
-    QFETCH(QByteArray, width);
+    QFETCH(const QMessageBox::StandardButton, answer);
+    QFETCH(const bool, typing);
+    QFETCH(const QByteArray, width);
     open(configuration);
     if (typing)
         type(u"r.receipt.paperWidth"_s, u"48"_s);
@@ -418,8 +418,8 @@ void EditorWindowTest::asksBeforeItReloads_data()
 
 void EditorWindowTest::asksBeforeItReloads()
 {
-    QFETCH(QMessageBox::StandardButton, answer);
-    QFETCH(QByteArray, width);
+    QFETCH(const QMessageBox::StandardButton, answer);
+    QFETCH(const QByteArray, width);
     open(configuration);
     change(u"r.receipt.paperWidth"_s, u"48"_s);
     dialogs.answers << answer;
@@ -522,8 +522,8 @@ void EditorWindowTest::asksBeforeItOverwritesAnothersChange_data()
 
 void EditorWindowTest::asksBeforeItOverwritesAnothersChange()
 {
-    QFETCH(bool, removed);
-    QFETCH(QMessageBox::StandardButton, answer);
+    QFETCH(const bool, removed);
+    QFETCH(const QMessageBox::StandardButton, answer);
     open(configuration);
     change(u"r.receipt.paperWidth"_s, u"48"_s);
     if (removed)
@@ -610,9 +610,9 @@ void EditorWindowTest::tellsWhatCannotBeRead_data()
 
 void EditorWindowTest::tellsWhatCannotBeRead()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, type);
-    QFETCH(QString, reason);
+    QFETCH(const QString, name);
+    QFETCH(const QString, type);
+    QFETCH(const QString, reason);
     QDir(home->path()).mkdir(u"folder"_s);
     home->writeFile(u"empty"_s, " \n");
     home->writeFile(u"open.xml"_s, "<r>\n</s>\n");

@@ -29,7 +29,7 @@ private Q_SLOTS:
     }
     void nearest()
     {
-        QFETCH(QString, name);
+        QFETCH(const QString, name);
         const QStringList known{u"get"_s, u"tree"_s, u"write"_s, u"write-xml"_s, u"check"_s, u"edit"_s};
         QTEST(nearestName(name, known), "nearest");
     }

@@ -51,7 +51,7 @@ private Q_SLOTS:
     }
     void everyWidth()
     {
-        QFETCH(int, paperWidth);
+        QFETCH(const int, paperWidth);
         const TemporaryHome home;
         const QByteArray text = starterConfiguration(paperWidth);
         const QString file = home.writeFile(u"tavolux.conf"_s, text);
