@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void asksBeforeItOverwritesAnothersChange();
 
     void findsByTyping();
+    void saysWhenNothingIsFound();
     void keepsFindingAfterReload();
     void focusMovesByTab();
 
@@ -298,6 +300,7 @@ void EditorWindowTest::leavesAnUnchangedFileAlone()
     const QByteArray untidy = "r:{b=2;a=1;};s:{c=3;};";
     open(untidy);
     press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(window->statusBar()->currentMessage(), u"There is no change to save."_s);
     QCOMPARE(fileBytes(file), untidy);
     QCOMPARE(dialogs.heard, QStringList());
 }
@@ -567,6 +570,18 @@ void EditorWindowTest::findsByTyping()
     QCOMPARE(findField()->text(), QString());
     QCOMPARE(QApplication::focusWidget(), view());
     QVERIFY(!value(u"r.receipt.paperWidth"_s)->parent()->isHidden());
+}
+
+void EditorWindowTest::saysWhenNothingIsFound()
+{
+    open(configuration);
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(findField(), u"headers"_s);
+    QCOMPARE(window->statusBar()->currentMessage(), u"Nothing found."_s);
+    QCOMPARE(view()->currentItem(), nullptr); // nothing that could be edited unseen
+    QTest::keyClick(findField(), Qt::Key_Backspace);
+    QCOMPARE(window->statusBar()->currentMessage(), QString());
+    QCOMPARE(view()->currentItem(), value(u"r.receipt.printHeader"_s)->parent());
 }
 
 void EditorWindowTest::keepsFindingAfterReload()
