@@ -102,7 +102,8 @@ private Q_SLOTS:
     void asksBeforeASectionMoves();
     void asksBeforeALaterSectionIsLost();
     void asksBeforeAValueChanges();
-    void asksBeforeXmlCommentsAreLost();
+    void asksBeforeUnshownTextIsLost_data();
+    void asksBeforeUnshownTextIsLost();
     void asksBeforeItOverwritesAnothersChange_data();
     void asksBeforeItOverwritesAnothersChange();
 
@@ -502,15 +503,35 @@ void EditorWindowTest::asksBeforeAValueChanges()
     QVERIFY(!window->isWindowModified());
 }
 
-void EditorWindowTest::asksBeforeXmlCommentsAreLost()
+void EditorWindowTest::asksBeforeUnshownTextIsLost_data()
 {
-    const QByteArray text = "<r><!-- note --><s k='v'/></r>";
-    open(text, u"xml"_s);
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("behind a brace too many")
+        << u"cfg"_s << QByteArray("r : { s : { k = v; }; }; }; t : { l = w; };");
+    QTest::newRow("comment in xml") << u"xml"_s << QByteArray("<r><!-- note --><s k='v'/></r>");
+}
+
+void EditorWindowTest::asksBeforeUnshownTextIsLost()
+{
+    QFETCH(QString, kind);
+    QFETCH(QByteArray, text);
+    open(text, kind);
     change(u"r.s.k"_s, u"w"_s);
     press(Qt::Key_S, Qt::ControlModifier); // cancelled
-    QCOMPARE(dialogs.heard.mid(1),
-             QStringList{u"Comments and text of the file are lost: only sections and settings are saved."_s});
+    QCOMPARE(
+        dialogs.heard.mid(1),
+        QStringList{u"Text of the file that is not shown is lost: only sections and settings are saved."_s});
     QCOMPARE(fileBytes(file), text);
+
+    // What was lost once is not asked about again.
+    dialogs.answers << QMessageBox::Save;
+    press(Qt::Key_S, Qt::ControlModifier);
+    dialogs.heard.clear();
+    change(u"r.s.k"_s, u"x"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(dialogs.heard, QStringList());
+    QVERIFY(!window->isWindowModified());
 }
 
 void EditorWindowTest::asksBeforeItOverwritesAnothersChange_data()
