@@ -167,7 +167,7 @@ private Q_SLOTS:
         QFETCH(const QString, argument);
         const TemporaryHome home;
         home.writeConfiguration(configuration);
-        const QString output = home.filePath(u"printed.txt"_s);
+        const QString output = home.writeFile(u"printed.txt"_s, "of an earlier document");
         QCOMPARE(messagesOf(home, {home.writeFile(u"document.xml"_s, receipt), output, argument}), "");
         QCOMPARE(fileBytes(output), printedReceipt);
     }

@@ -4,6 +4,12 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const QMap<QString, QString> withoutDisplay = {{u"QT_QPA_PLATFORM"_s, u"xcb"_s}, {u"DISPLAY"_s, QString()}};
+
+} // namespace
+
 class EditorProgramTest : public QObject
 {
     Q_OBJECT
@@ -11,6 +17,8 @@ class EditorProgramTest : public QObject
 private Q_SLOTS:
     void answersWithoutDisplay_data();
     void answersWithoutDisplay();
+    void opensAFileNamedLikeAQuestion_data();
+    void opensAFileNamedLikeAQuestion();
     void refusesWrongArguments_data();
     void refusesWrongArguments();
 };
@@ -29,12 +37,26 @@ void EditorProgramTest::answersWithoutDisplay()
 {
     QFETCH(const QString, option);
     QFETCH(const QByteArray, answer);
-    const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), {option},
-                                            {{u"QT_QPA_PLATFORM"_s, u"xcb"_s}, {u"DISPLAY"_s, QString()}});
+    const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), {option}, withoutDisplay);
     QVERIFY(!result.crashed);
     QCOMPARE(result.exitStatus, 0);
     QCOMPARE(result.standardError, QByteArray());
     QVERIFY2(('\n' + result.standardOutput).contains('\n' + answer), result.standardOutput.constData());
+}
+
+void EditorProgramTest::opensAFileNamedLikeAQuestion_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("behind the options") << QStringList{u"--"_s, u"--help"_s};
+    QTest::newRow("as the value of one") << QStringList{u"--file"_s, u"-v"_s};
+}
+
+// It comes as far as the window, for which it misses the display.
+void EditorProgramTest::opensAFileNamedLikeAQuestion()
+{
+    QFETCH(const QStringList, arguments);
+    const ProgramResult result = runProgram(QStringLiteral(TAVOLUX_CONFIG_EDITOR), arguments, withoutDisplay);
+    QVERIFY2(result.standardError.contains("could not connect to display"), result.standardError.constData());
 }
 
 void EditorProgramTest::refusesWrongArguments_data()

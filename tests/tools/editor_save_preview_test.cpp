@@ -24,6 +24,8 @@ private Q_SLOTS:
     void foreseesWhatTheStoreMakes();
     void findsWhatIsNoElement_data();
     void findsWhatIsNoElement();
+    void findsWhatIsNotShown_data();
+    void findsWhatIsNotShown();
 
 private:
     const TemporaryHome home;
@@ -191,6 +193,7 @@ void EditorSavePreviewTest::findsWhatIsNoElement_data()
     QTest::newRow("elements only") << QByteArray("<r k='1'>\n  <s l='2'/>\n</r>\n") << false;
     QTest::newRow("comment") << QByteArray("<r><!-- note --></r>") << true;
     QTest::newRow("comment at the end") << QByteArray("<r/><!-- note -->") << true;
+    QTest::newRow("comment below a prefix") << QByteArray("<p:r><!-- note --></p:r>") << true;
     QTest::newRow("text") << QByteArray("<r>text</r>") << true;
     QTest::newRow("processing instruction") << QByteArray("<r/><?target data?>") << true;
     QTest::newRow("document type") << QByteArray("<!DOCTYPE r><r/>") << true;
@@ -201,6 +204,32 @@ void EditorSavePreviewTest::findsWhatIsNoElement()
 {
     QFETCH(const QByteArray, xml);
     QTEST(holdsMoreThanElements(xml), "found");
+}
+
+void EditorSavePreviewTest::findsWhatIsNotShown_data()
+{
+    QTest::addColumn<QByteArray>("cfg");
+    QTest::addColumn<bool>("found");
+    QTest::newRow("everything is shown") << QByteArray("a = 1;\n\"r\" : {\n  l = \" v\xE8 \"; k = a:b={c};"
+                                                       " s : { m = ; };\n};\nt : { n = 2; };\n")
+                                         << false;
+    QTest::newRow("no text at all") << QByteArray() << false;
+    QTest::newRow("missing ends") << QByteArray("r : { s : { k = v") << false;
+    QTest::newRow("remark before a brace") << QByteArray("r : remark { k = v; };") << true;
+    QTest::newRow("remark behind a brace") << QByteArray("r : { k = v; } remark;") << true;
+    QTest::newRow("text at the end") << QByteArray("r : { k = v; }; text") << true;
+    QTest::newRow("setting given twice") << QByteArray("r : { k = v; k = v; };") << true;
+    QTest::newRow("section without a setting") << QByteArray("r : { k = v; s : { }; };") << true;
+    QTest::newRow("behind a brace too many") << QByteArray("r : { k = v; }; }; t : { l = w; };") << true;
+    QTest::newRow("behind a missing semicolon") << QByteArray("r : { s : { k = v; } l = w; };") << true;
+}
+
+void EditorSavePreviewTest::findsWhatIsNotShown()
+{
+    QFETCH(const QByteArray, cfg);
+    const Config config(home.writeFile(u"a.conf"_s, cfg), u"cfg"_s);
+    const std::unique_ptr<QTreeWidget> view(config.buildConfigListView());
+    QTEST(holdsMoreThanShown(cfg, *view), "found");
 }
 
 QTEST_MAIN(EditorSavePreviewTest)

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -101,11 +102,13 @@ private Q_SLOTS:
     void asksBeforeASectionMoves();
     void asksBeforeALaterSectionIsLost();
     void asksBeforeAValueChanges();
-    void asksBeforeXmlCommentsAreLost();
+    void asksBeforeUnshownTextIsLost_data();
+    void asksBeforeUnshownTextIsLost();
     void asksBeforeItOverwritesAnothersChange_data();
     void asksBeforeItOverwritesAnothersChange();
 
     void findsByTyping();
+    void saysWhenNothingIsFound();
     void keepsFindingAfterReload();
     void focusMovesByTab();
 
@@ -298,6 +301,7 @@ void EditorWindowTest::leavesAnUnchangedFileAlone()
     const QByteArray untidy = "r:{b=2;a=1;};s:{c=3;};";
     open(untidy);
     press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(window->statusBar()->currentMessage(), u"There is no change to save."_s);
     QCOMPARE(fileBytes(file), untidy);
     QCOMPARE(dialogs.heard, QStringList());
 }
@@ -499,15 +503,35 @@ void EditorWindowTest::asksBeforeAValueChanges()
     QVERIFY(!window->isWindowModified());
 }
 
-void EditorWindowTest::asksBeforeXmlCommentsAreLost()
+void EditorWindowTest::asksBeforeUnshownTextIsLost_data()
 {
-    const QByteArray text = "<r><!-- note --><s k='v'/></r>";
-    open(text, u"xml"_s);
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("behind a brace too many")
+        << u"cfg"_s << QByteArray("r : { s : { k = v; }; }; }; t : { l = w; };");
+    QTest::newRow("comment in xml") << u"xml"_s << QByteArray("<r><!-- note --><s k='v'/></r>");
+}
+
+void EditorWindowTest::asksBeforeUnshownTextIsLost()
+{
+    QFETCH(const QString, kind);
+    QFETCH(const QByteArray, text);
+    open(text, kind);
     change(u"r.s.k"_s, u"w"_s);
     press(Qt::Key_S, Qt::ControlModifier); // cancelled
-    QCOMPARE(dialogs.heard.mid(1),
-             QStringList{u"Comments and text of the file are lost: only sections and settings are saved."_s});
+    QCOMPARE(
+        dialogs.heard.mid(1),
+        QStringList{u"Text of the file that is not shown is lost: only sections and settings are saved."_s});
     QCOMPARE(fileBytes(file), text);
+
+    // What was lost once is not asked about again.
+    dialogs.answers << QMessageBox::Save;
+    press(Qt::Key_S, Qt::ControlModifier);
+    dialogs.heard.clear();
+    change(u"r.s.k"_s, u"x"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(dialogs.heard, QStringList());
+    QVERIFY(!window->isWindowModified());
 }
 
 void EditorWindowTest::asksBeforeItOverwritesAnothersChange_data()
@@ -567,6 +591,18 @@ void EditorWindowTest::findsByTyping()
     QCOMPARE(findField()->text(), QString());
     QCOMPARE(QApplication::focusWidget(), view());
     QVERIFY(!value(u"r.receipt.paperWidth"_s)->parent()->isHidden());
+}
+
+void EditorWindowTest::saysWhenNothingIsFound()
+{
+    open(configuration);
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(findField(), u"headers"_s);
+    QCOMPARE(window->statusBar()->currentMessage(), u"Nothing found."_s);
+    QCOMPARE(view()->currentItem(), nullptr); // nothing that could be edited unseen
+    QTest::keyClick(findField(), Qt::Key_Backspace);
+    QCOMPARE(window->statusBar()->currentMessage(), QString());
+    QCOMPARE(view()->currentItem(), value(u"r.receipt.printHeader"_s)->parent());
 }
 
 void EditorWindowTest::keepsFindingAfterReload()

@@ -68,6 +68,7 @@ QString ConfigurationFile::read()
               "in elements nested deeper than %1."_s.arg(libconfig::Config::maximumNesting);
     store = std::move(fresh);
     content = bytes;
+    holdsUnshownText = type == "xml"_L1 ? holdsMoreThanElements(bytes) : holdsMoreThanShown(bytes, *shown);
     return {};
 }
 
@@ -85,8 +86,8 @@ bool ConfigurationFile::changedOnDisk() const
 QStringList ConfigurationFile::changesByWriting(const QTreeWidget &view) const
 {
     QStringList changes = changesBySaving(view, type);
-    if (type == "xml"_L1 && holdsMoreThanElements(content))
-        changes << u"Comments and text of the file are lost: only sections and settings are saved."_s;
+    if (holdsUnshownText)
+        changes << u"Text of the file that is not shown is lost: only sections and settings are saved."_s;
     return changes;
 }
 

@@ -39,4 +39,5 @@ private:
     QString type;
     std::unique_ptr<libconfig::Config> store;
     QByteArray content;
+    bool holdsUnshownText = false; // comments and the like, when it was read
 };

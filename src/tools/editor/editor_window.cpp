@@ -207,10 +207,13 @@ void EditorWindow::activate(QTreeWidgetItem *item)
 
 void EditorWindow::find(const QString &text)
 {
-    if (QTreeWidgetItem *match = filter->lookFor(text))
-        view->setCurrentItem(match);
-    else if (!text.isEmpty())
-        statusBar()->showMessage(u"Nothing found."_s, messageMilliseconds);
+    statusBar()->clearMessage();
+    QTreeWidgetItem *match = filter->lookFor(text);
+    if (!text.isEmpty()) {
+        view->setCurrentItem(match); // no hidden item, which would be edited unseen
+        if (!match)
+            statusBar()->showMessage(u"Nothing found."_s, messageMilliseconds);
+    }
     if (view->currentItem())
         view->scrollToItem(view->currentItem());
 }

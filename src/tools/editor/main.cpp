@@ -6,25 +6,19 @@
 #include <QCommandLineParser>
 #include <QIcon>
 
-#include <algorithm>
 #include <cstdio>
 #include <memory>
-#include <span>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Help and version can be had without a display.
+// Help and version, asked for alone, can be had without a display.
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 {
-    const bool needsNoDisplay =
-        std::ranges::any_of(std::span(argv, argv + argc), [](std::string_view argument) {
-            return argument.starts_with("--help") || argument == "-h" || argument == "--version"
-                || argument == "-v";
-        });
-    if (needsNoDisplay)
+    const std::string_view question = argc == 2 ? argv[1] : "";
+    if (question.starts_with("--help") || question == "-h" || question == "--version" || question == "-v")
         return std::make_unique<QCoreApplication>(argc, argv);
     return std::make_unique<QApplication>(argc, argv);
 }

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QTemporaryFile>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -156,6 +157,14 @@ QStringList lossesInFile(const QTreeWidget &view, const Section &saved, const QS
     return changes;
 }
 
+// The characters of names and values, in an order of their own: a file may be laid out and ordered at will.
+QString lettersOf(QString text)
+{
+    text.removeIf([](QChar c) { return c.isSpace() || QStringView(u"\":={};").contains(c); });
+    std::ranges::sort(text);
+    return text;
+}
+
 } // namespace
 
 QStringList changesBySaving(const QTreeWidget &view, const QString &type)
@@ -168,6 +177,7 @@ QStringList changesBySaving(const QTreeWidget &view, const QString &type)
 bool holdsMoreThanElements(const QByteArray &xml)
 {
     QXmlStreamReader reader(xml);
+    reader.setNamespaceProcessing(false); // as the store reads it: no prefix ends the search
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::Characters:
@@ -184,4 +194,13 @@ bool holdsMoreThanElements(const QByteArray &xml)
         }
     }
     return false;
+}
+
+bool holdsMoreThanShown(const QByteArray &cfg, const QTreeWidget &view)
+{
+    QString shown;
+    for (QTreeWidgetItemIterator item(const_cast<QTreeWidget *>(&view)); *item; ++item)
+        if ((*item)->parent()) // the one without names the file
+            shown += (*item)->text(0);
+    return lettersOf(QString::fromLatin1(cfg)) != lettersOf(shown);
 }

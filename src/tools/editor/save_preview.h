@@ -16,3 +16,7 @@ QStringList changesBySaving(const QTreeWidget &view, const QString &type);
 /* Whether an XML text holds what a tree view does not show and so does not save: comments, text between the
  * elements, processing instructions, a document type. */
 bool holdsMoreThanElements(const QByteArray &xml);
+
+/* Whether a "cfg" text holds what its view does not show and so does not save: remarks, a setting given
+ * twice, what stands behind a closing brace too many. */
+bool holdsMoreThanShown(const QByteArray &cfg, const QTreeWidget &view);
