@@ -152,6 +152,14 @@ protected:
     QString documentPrefix;
     Justification justification = Justification::left;
 
+    // For devices that need them: the texts of "printers", of which only the name is printed here, and the
+    // credit that was last printed.
+    QString printerName;
+    QString printerCharSize;
+    QString printerIpAddress;
+    QString printerPort;
+    QString credit;
+
 private:
     /* Translated at the first item: later ones hand them over as well, for nothing to be printed. */
     struct ColumnTitles
@@ -175,11 +183,4 @@ private:
     bool duplicate = false;
     bool oneTimeDone = false;
     std::optional<ColumnTitles> columnTitles;
-
-    // Of the "printers" element. Only the name is printed.
-    QString printerName;
-    QString printerCharSize;
-    QString printerIpAddress;
-    QString printerPort;
-    QString credit;
 };
