@@ -222,6 +222,38 @@ private Q_SLOTS:
         QCOMPARE(driver.calls, expected);
     }
 
+    void deviceLearnsWhichPrinterItIs()
+    {
+        class NetworkPrinter : public RecordingDriver
+        {
+        public:
+            void initPrinter() override
+            {
+                note(u"initPrinter"_s, {printerName, printerCharSize, printerIpAddress, printerPort});
+            }
+        };
+        NetworkPrinter driver;
+        QVERIFY(printSections(driver,
+                              "<printers port='9100' ipaddress='10.0.0.1' name='Bar' charsize='2'/>"
+                              "<printers port='9101'/>"));
+        QCOMPARE(driver.calls, calls({"initPrinter|Bar|2|10.0.0.1|9100|", "initPrinter||||9101|"}));
+    }
+
+    void deviceLearnsTheCreditThatIsPrinted()
+    {
+        class CreditPrinter : public RecordingDriver
+        {
+        public:
+            using PrinterDriver::credit;
+        };
+        CreditPrinter driver;
+        QVERIFY(printSections(driver, "<orderinfo credit='5'/>"));
+        QCOMPARE(driver.credit, QString());
+        driver.profile.printCredit = true;
+        QVERIFY(printSections(driver, "<orderinfo credit='6'/>"));
+        QCOMPARE(driver.credit, u"6"_s);
+    }
+
     void topMargin_data()
     {
         QTest::addColumn<bool>("wanted");
