@@ -212,7 +212,10 @@ private Q_SLOTS:
             QVERIFY(!QFile::exists(out));
         };
 
-        verify({}, userFile() + ": No such file or directory"_L1);
+        verify({},
+               userFile()
+                   + ": No such file or directory\n"
+                     "tavolux-config: \"tavolux-config init\" writes a configuration to start from"_L1);
         verify({u"--file"_s, home->path()}, home->path() + ": it is no regular file"_L1);
         const QString pipe = home->makeFifo(u"pipe"_s); // reading it would wait for a writer
         verify({u"--file"_s, pipe}, pipe + ": it is no regular file"_L1);

@@ -59,6 +59,14 @@ private Q_SLOTS:
                                                    "fiscaldoc : { descriptionWidth = 20; };")
                                         << QStringList();
         QTest::newRow("empty file") << QByteArray() << QStringList{nothingSet};
+        QTest::newRow("XML")
+            << QByteArray("\n<?xml version=\"1.0\"?>\n<tavolux>\n <doc paperWidth=\"42\"/>\n</tavolux>\n")
+            << QStringList{
+                   u"2: this looks like XML, which --type xml checks; the printing program reads cfg alone"_s};
+        QTest::newRow("XML without a setting")
+            << QByteArray("<tavolux/>\n")
+            << QStringList{
+                   u"1: this looks like XML, which --type xml checks; the printing program reads cfg alone"_s};
         QTest::newRow("section without settings") << QByteArray("tavolux : { };") << QStringList{nothingSet};
         QTest::newRow("empty section before the first one counts for nothing")
             << QByteArray("x : { };\ntavolux : { doc : { paperWidth = 42; }; };") << QStringList();

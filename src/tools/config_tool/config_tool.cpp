@@ -62,6 +62,8 @@ std::optional<QByteArray> readFile(const QString &name)
     }
     if (!file.open(QIODevice::ReadOnly)) {
         complain(u"cannot read %1: %2"_s.arg(name, file.errorString()));
+        if (!file.exists())
+            complain(u"\"tavolux-config init\" writes a configuration to start from"_s);
         return {};
     }
     return file.readAll();

@@ -166,6 +166,10 @@ public:
     {
         if (!scan.fault.isEmpty())
             return {{scan.faultLine, scan.fault}};
+        if (kind == "cfg"_L1 && !scan.statements.empty() && scan.statements.front().name.startsWith(u'<'))
+            return {
+                {scan.statements.front().line,
+                 u"this looks like XML, which --type xml checks; the printing program reads cfg alone"_s}};
         if (!scan.beginsWithRoot)
             add(1,
                 u"the first node is not the root element but a declaration or a comment, so nothing in the "
