@@ -1,6 +1,7 @@
 /*
  * A whole document through the plain-text printer. The input is the document and the user's configuration.
  */
+#include "bounded_document.h"
 #include "company_printer_driver.h"
 #include "fuzzing.h"
 #include "sync_singleton.h"
@@ -9,7 +10,6 @@
 
 #include <QBuffer>
 #include <QStringDecoder>
-#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 #include <algorithm>
@@ -49,9 +49,10 @@ bool print(QByteArray document, const QString &file)
 {
     FrugalPrinter printer(file, false);
     QBuffer buffer(&document);
-    QXmlInputSource source(&buffer);
+    BoundedDocument source(&buffer);
     QXmlSimpleReader reader;
     reader.setContentHandler(&printer);
+    reader.setDeclHandler(&source);
     return reader.parse(source);
 }
 
