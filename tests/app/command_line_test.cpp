@@ -5,10 +5,7 @@
 #include <QFile>
 #include <QTest>
 
-#include <thread>
-
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -28,25 +25,6 @@ const QByteArray unableToOpen = "PrintManager::printAbstractOrder(...): Unable T
 const QByteArray unsupported = "File Format Not Supported\n";
 
 using Environment = QMap<QString, QString>;
-
-/* The receipt many times over: much more than every buffer on its way holds. */
-constexpr int manyReceipts = 20'000;
-
-QByteArray longDocument()
-{
-    return "<document><method name=\"printFullOrderReceipt\"/>"
-        + QByteArray("<receipt serialnumber=\"17\"/>").repeated(manyReceipts) + "</document>";
-}
-
-QByteArray printedLongDocument()
-{
-    return QByteArray(" Serial Number: 17\n=====\n").repeated(manyReceipts) + "\x1Bp0";
-}
-
-QByteArray failedOutput(const QString &output, const QByteArray &reason)
-{
-    return "Error in the method PrinterDriver::print( " + output.toUtf8() + " ): " + reason + '\n';
-}
 
 QByteArray missingConfiguration(const TemporaryHome &home)
 {
@@ -71,40 +49,13 @@ QByteArray messagesOf(const TemporaryHome &home, const QStringList &arguments,
     return run.standardOutput;
 }
 
-/* For beforeStart: no file that the program writes grows beyond the limit. */
-std::function<void()> withFileSizeLimit(rlim_t bytes)
-{
-    return [bytes] {
-        const rlimit limit = {bytes, bytes};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    };
-}
-
-/* For beforeStart: standard output is a pipe that nobody reads. */
-void closePipe()
-{
-    int ends[2];
-    if (pipe(ends) != 0)
-        _exit(99);
-    dup2(ends[1], STDOUT_FILENO);
-    close(ends[0]);
-    close(ends[1]);
-}
-
 } // namespace
 
-/* The printing program as it is called: arguments, messages, exit status, and where its output goes. */
+/* The printing program as it is called: arguments, messages, exit status, and where its output goes. What
+ * happens when that fails is tried in tests/reliability. */
 class CommandLineTest : public QObject
 {
     Q_OBJECT
-
-private:
-    static void addLocales()
-    {
-        QTest::addColumn<QString>("locale");
-        for (const char *locale : {"C", "C.UTF-8", "it_IT.UTF-8", "no_such_locale"})
-            QTest::newRow(locale) << QString::fromLatin1(locale);
-    }
 
 private Q_SLOTS:
     void argumentCount_data()
@@ -184,28 +135,6 @@ private Q_SLOTS:
         }
     }
 
-    void inputThatCannotBeReadPrintsNothing_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("missing") << u"missing.xml"_s;
-        QTest::newRow("in a missing folder") << u"missing/document.xml"_s;
-        QTest::newRow("folder") << u"."_s;
-        QTest::newRow("empty name") << QString();
-        QTest::newRow("empty file") << u"empty.xml"_s;
-    }
-
-    void inputThatCannotBeReadPrintsNothing()
-    {
-        QFETCH(const QString, name);
-        const TemporaryHome home;
-        home.writeConfiguration(configuration);
-        home.writeFile(u"empty.xml"_s, {});
-        const QString output = home.writeFile(u"printed.txt"_s, "of an earlier document");
-        const QString input = name.isEmpty() ? name : home.filePath(name);
-        QCOMPARE(messagesOf(home, {input, output}), "");
-        QCOMPARE(fileBytes(output), "");
-    }
-
     void faultInTheDocumentKeepsWhatWasPrinted()
     {
         const TemporaryHome home;
@@ -216,25 +145,6 @@ private Q_SLOTS:
             "<document><method name=\"printFullOrderReceipt\"/><receipt serialnumber=\"17\"/></wrong>");
         QCOMPARE(messagesOf(home, {input, output}), "");
         QCOMPARE(fileBytes(output), " Serial Number: 17\n=====\n");
-    }
-
-    void outputThatCannotBeOpenedIsReported_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("in a missing folder") << u"missing/printed.txt"_s;
-        QTest::newRow("folder") << u"folder"_s;
-        QTest::newRow("empty name") << QString();
-    }
-
-    void outputThatCannotBeOpenedIsReported()
-    {
-        QFETCH(const QString, name);
-        const TemporaryHome home;
-        home.writeConfiguration(configuration);
-        home.writeFile(u"folder/file"_s, "kept");
-        const QString output = name.isEmpty() ? name : home.filePath(name);
-        QCOMPARE(messagesOf(home, {home.writeFile(u"document.xml"_s, receipt), output}), unableToOpen);
-        QCOMPARE(fileBytes(home.filePath(u"folder/file"_s)), "kept");
     }
 
     void missingConfigurationPrintsWithDefaults()
@@ -283,24 +193,6 @@ private Q_SLOTS:
                  missingConfiguration(home) + unableToOpen + unsupported);
     }
 
-    void everyLocaleGetsTheSame_data() { addLocales(); }
-
-    void everyLocaleGetsTheSame()
-    {
-        QFETCH(const QString, locale);
-        const TemporaryHome home(u"caff\u00E8 \u20AC"_s);
-        const Environment environment = {{u"LC_ALL"_s, locale}};
-        const QString input = home.writeFile(u"men\u00F9 \u03B1.xml"_s, unknownMethod);
-        QCOMPARE(messagesOf(home, {input, home.filePath(u"missing/\u03B2.txt"_s)}, environment),
-                 missingConfiguration(home) + unableToOpen + unsupported);
-
-        home.writeConfiguration(configuration);
-        const QString output = home.filePath(u"stampa \u03B2.txt"_s);
-        home.writeFile(u"men\u00F9 \u03B1.xml"_s, receipt);
-        QCOMPARE(messagesOf(home, {input, output}, environment), "");
-        QCOMPARE(fileBytes(output), printedReceipt);
-    }
-
     void fileNamesAreTakenFromTheWorkingDirectory()
     {
         const TemporaryHome home;
@@ -312,84 +204,12 @@ private Q_SLOTS:
         QCOMPARE(fileBytes(home.filePath(u"printed.txt"_s)), printedReceipt);
     }
 
-    void nobodyReadsTheMessages_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("usage") << QStringList();
-        QTest::newRow("unknown method") << QStringList({u"document.xml"_s, u"printed.txt"_s});
-        QTest::newRow("output that cannot be opened")
-            << QStringList({u"document.xml"_s, u"missing/printed"_s});
-        QTest::newRow("output that cannot be written") << QStringList({u"document.xml"_s, u"/dev/full"_s});
-    }
-
-    void nobodyReadsTheMessages()
-    {
-        QFETCH(const QStringList, arguments);
-        const TemporaryHome home;
-        home.writeFile(u"document.xml"_s, unknownMethod);
-        QCOMPARE(messagesOf(home, arguments, {},
-                            [enter = inFolder(home.path())] {
-                                closePipe();
-                                enter();
-                            }),
-                 "");
-    }
-
-    void fullDeviceIsReportedOnce_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::newRow("what fits into one buffer") << receipt;
-        QTest::newRow("what fills many buffers") << longDocument();
-    }
-
-    void fullDeviceIsReportedOnce()
-    {
-        QFETCH(const QByteArray, text);
-        const TemporaryHome home;
-        home.writeConfiguration(configuration);
-        QCOMPARE(messagesOf(home, {home.writeFile(u"document.xml"_s, text), u"/dev/full"_s}),
-                 failedOutput(u"/dev/full"_s, "No space left on device"));
-    }
-
     void nothingPrintedIsNoFailure()
     {
         const TemporaryHome home;
         home.writeConfiguration(configuration);
         const QString input = home.writeFile(u"document.xml"_s, "<document/>");
         QCOMPARE(messagesOf(home, {input, u"/dev/full"_s}), "");
-    }
-
-    void fullDiskKeepsWhatFitted_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("printed");
-        QTest::addColumn<int>("room");
-        QTest::newRow("within the first buffer") << receipt << printedReceipt << 10;
-        QTest::newRow("nothing at all") << receipt << printedReceipt << 0;
-        QTest::newRow("within a later buffer") << longDocument() << printedLongDocument() << 100'000;
-    }
-
-    void fullDiskKeepsWhatFitted()
-    {
-        QFETCH(const QByteArray, text);
-        QFETCH(const QByteArray, printed);
-        QFETCH(const int, room);
-        const TemporaryHome home;
-        home.writeConfiguration(configuration);
-        const QString output = home.filePath(u"printed \u20AC.txt"_s);
-        QCOMPARE(messagesOf(home, {home.writeFile(u"document.xml"_s, text), output}, {},
-                            withFileSizeLimit(static_cast<rlim_t>(room))),
-                 failedOutput(output, "File too large"));
-        QVERIFY(fileBytes(output) == printed.first(room));
-    }
-
-    void longDocumentIsWrittenWhole()
-    {
-        const TemporaryHome home;
-        home.writeConfiguration(configuration);
-        const QString output = home.filePath(u"printed.txt"_s);
-        QCOMPARE(messagesOf(home, {home.writeFile(u"document.xml"_s, longDocument()), output}), "");
-        QVERIFY(fileBytes(output) == printedLongDocument());
     }
 
     void fifoGetsWhatAFileGets()
@@ -405,28 +225,6 @@ private Q_SLOTS:
         bytes.truncate(read(reader, bytes.data(), 100));
         close(reader);
         QCOMPARE(bytes, printedReceipt);
-    }
-
-    void readerOfTheFifoLeaves()
-    {
-        const TemporaryHome home;
-        home.writeConfiguration(configuration);
-        const QString fifo = home.makeFifo(u"printer"_s);
-        const QByteArray path = QFile::encodeName(fifo);
-        std::thread reader([&] {
-            const int device = open(path.constData(), O_RDONLY | O_CLOEXEC);
-            char byte = 0;
-            (void)!read(device, &byte, 1);
-            close(device);
-        });
-        const QByteArray messages =
-            messagesOf(home, {home.writeFile(u"document.xml"_s, longDocument()), fifo});
-        // Lets the reader go in case that nobody came.
-        const int writer = open(path.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
-        if (writer >= 0)
-            close(writer);
-        reader.join();
-        QCOMPARE(messages, failedOutput(fifo, "Broken pipe"));
     }
 
     void documentComesFromAFifo()

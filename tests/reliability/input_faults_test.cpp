@@ -130,6 +130,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name"); // in the home directory
         QTest::newRow("missing") << u"missing.xml"_s;
+        QTest::newRow("in a missing directory") << u"missing/document.xml"_s;
         QTest::newRow("directory") << u"."_s;
         QTest::newRow("unreadable") << u"unreadable.xml"_s;
         QTest::newRow("empty") << u"empty.xml"_s;
@@ -151,6 +152,13 @@ private Q_SLOTS:
         run.home.writeFile(u"printed.txt"_s, "of the document before");
         run.input = run.home.filePath(name);
         run.beforeStart = becomeOrdinaryUser;
+        verifyPrints(run, {});
+    }
+
+    void emptyNameIsNoDocument()
+    {
+        PrintRun run;
+        run.input.clear();
         verifyPrints(run, {});
     }
 

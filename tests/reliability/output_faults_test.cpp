@@ -110,6 +110,7 @@ private Q_SLOTS:
         QFETCH(const int, bytes);
         PrintRun run;
         run.home.writeFile(u"document.xml"_s, longDocument());
+        run.output = run.home.filePath(u"printed \u20AC.txt"_s); // in the message as it is
         run.beforeStart = [bytes] { limitFileSize(static_cast<unsigned long>(bytes)); };
         const ProgramResult result = run.run();
         QCOMPARE(misbehaviour(result), QByteArray());
