@@ -9,9 +9,9 @@
  */
 #include "config.h"
 #include "diagnostic.h"
+#include "file_name.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <sys/stat.h>
 
 #include <string>
 
@@ -33,13 +33,14 @@ QString trimmed(const std::string &bytes)
 bool Config::openFile(const QString &name)
 {
     closeFile();
+    const QByteArray path = fileNameBytes(name);
+    struct stat status = {};
     // A directory opens as a stream that never ends, and a FIFO waits for a writer.
-    if (QFileInfo(name).isFile())
-        inputStream.open(QFile::encodeName(name).toStdString(), std::ios::in | std::ios::binary);
+    if (stat(path.constData(), &status) == 0 && S_ISREG(status.st_mode))
+        inputStream.open(path.constData(), std::ios::in | std::ios::binary);
     if (inputStream.is_open())
         return true;
-    printDiagnostic("Error in the method FileReader::open( " + QFile::encodeName(name)
-                    + " ): File Not Found");
+    printDiagnostic("Error in the method FileReader::open( " + shownFileName(name) + " ): File Not Found");
     return false;
 }
 

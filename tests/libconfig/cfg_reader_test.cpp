@@ -1,5 +1,6 @@
 #include "captured_output.h"
 #include "config.h"
+#include "file_name.h"
 #include "temporary_home.h"
 
 #include <QFile>
@@ -9,6 +10,9 @@
 #include <sys/fsuid.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
 
 using namespace Qt::StringLiterals;
 
@@ -358,6 +362,24 @@ private Q_SLOTS:
         QCOMPARE(config.lookup(u"s.k"_s), u"v"_s);
         const QByteArray tree = capturedOutput([&] { config.printConfigTree(); });
         QVERIFY(tree.startsWith("Tree \n" + file.toLatin1() + "\ns\n"));
+    }
+
+    void fileNamesAreTheBytesThatTheSystemGave()
+    {
+        const TemporaryHome home;
+        const QByteArray path = QFile::encodeName(home.filePath(u"b"_s)) + "\xE4r.conf";
+        std::ofstream(path.constData()) << "s : { k = v; };";
+        QVERIFY(std::filesystem::exists(path.toStdString()));
+        QCOMPARE(libconfig::Config(fileNameFromBytes(path), u"cfg"_s).lookup(u"s.k"_s), u"v"_s);
+        QCOMPARE(capturedOutput([&] { libconfig::Config(fileNameFromBytes(path + '\xE4'), u"cfg"_s); }),
+                 "Error in the method FileReader::open( " + path + "\xE4 ): File Not Found\n");
+    }
+
+    void messageStaysOnOneLine()
+    {
+        const QByteArray messages =
+            capturedOutput([] { libconfig::Config(u"no\nsuch\u001B[2Jfile"_s, u"cfg"_s); });
+        QCOMPARE(messages, "Error in the method FileReader::open( no?such?[2Jfile ): File Not Found\n");
     }
 
     void jumpEndsBehindTheFirstOccurrence()
