@@ -1,16 +1,15 @@
 /*
  * A whole document through the plain-text printer. The input is the document and the user's configuration.
  */
-#include "bounded_document.h"
 #include "company_printer_driver.h"
 #include "fuzzing.h"
-#include "sync_singleton.h"
+#include "print_document.h"
+#include "print_output.h"
 #include "temporary_home.h"
 #include "tx_configuration.h"
 
 #include <QBuffer>
 #include <QStringDecoder>
-#include <QXmlSimpleReader>
 
 #include <algorithm>
 
@@ -44,16 +43,21 @@ private:
     static constexpr int enough = 200;
 };
 
-/* Prints a document to the file; true when the reader came to its end without a fault. */
-bool print(QByteArray document, const QString &file)
+struct Printout
 {
-    FrugalPrinter printer(file, false);
-    QBuffer buffer(&document);
-    BoundedDocument source(&buffer);
-    QXmlSimpleReader reader;
-    reader.setContentHandler(&printer);
-    reader.setDeclHandler(&source);
-    return reader.parse(source);
+    QByteArray text;
+    Reading reading;
+};
+
+Printout print(QByteArray document, const TXConfiguration &configuration)
+{
+    QByteArray text;
+    QBuffer paper(&text);
+    paper.open(QIODevice::WriteOnly);
+    FrugalPrinter printer(configuration, std::make_unique<PrintOutput>(paper, u"paper"_s));
+    QBuffer source(&document);
+    const Reading reading = printDocument(source, printer);
+    return {text, reading};
 }
 
 bool isUtf8(const QByteArray &text)
@@ -69,17 +73,15 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const TemporaryHome home;
     const FuzzInput input(data, size);
-    home.writeConfiguration(input.companion);
-    home.enter();
-    SyncSingleton<TXConfiguration>::instance().readFile(TXConfiguration::userFile(), u"cfg"_s);
+    const TXConfiguration configuration(home.writeFile(u"tavolux.conf"_s, input.companion), u"cfg"_s);
 
-    const QString file = home.filePath(u"printout"_s);
-    print(input.file, file);
-    const QByteArray printout = fileBytes(file);
-    require(isUtf8(printout), "a printout is UTF-8");
+    const Printout whole = print(input.file, configuration);
+    require(isUtf8(whole.text), "a printout is UTF-8");
+    require(whole.reading.complete() == whole.reading.reason.isEmpty(), "what is not complete has a reason");
 
     // Half a document is a whole one when only the other half has the fault; then it ends on its own.
-    if (!print(input.file.first(input.file.size() / 2), file))
-        require(printout.startsWith(fileBytes(file)), "half a document prints the beginning of the whole");
+    const Printout half = print(input.file.first(input.file.size() / 2), configuration);
+    if (!half.reading.complete())
+        require(whole.text.startsWith(half.text), "half a document prints the beginning of the whole");
     return 0;
 }

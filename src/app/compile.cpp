@@ -1,15 +1,18 @@
 #include "compile.h"
 
-#include "bounded_document.h"
-#include "company_printer_driver.h"
 #include "diagnostic.h"
+#include "file_name.h"
+#include "make_driver.h"
+#include "print_document.h"
+#include "print_output.h"
+#include "printer_driver.h"
 #include "sync_singleton.h"
 #include "tx_configuration.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QLocale>
 #include <QTranslator>
-#include <QXmlSimpleReader>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -61,11 +64,12 @@ void compile(int argc, char *argv[])
         (void)translator.load(basedir + file);
     QCoreApplication::installTranslator(&translator);
 
-    CompanyPrinterDriver driver(QFile::decodeName(argv[2]), false);
-    QXmlSimpleReader reader;
-    reader.setContentHandler(&driver);
-    QFile inputFile(QFile::decodeName(argv[1]));
-    BoundedDocument document(&inputFile);
-    reader.setDeclHandler(&document);
-    reader.parse(document);
+    // The names are the bytes of the command line, of whatever encoding.
+    const std::unique_ptr<PrinterDriver> driver =
+        makeDriver(configuration,
+                   std::make_unique<PrintOutput>(fileNameFromBytes(argv[2]), PrintOutput::Opening::truncate));
+    const int input = open(argv[1], O_RDONLY | O_CLOEXEC);
+    QFile document;
+    if (input >= 0 && document.open(input, QIODevice::ReadOnly, QFile::AutoCloseHandle))
+        printDocument(document, *driver);
 }

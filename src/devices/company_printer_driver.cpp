@@ -1,53 +1,30 @@
 #include "company_printer_driver.h"
 
+#include "print_output.h"
+#include "sync_singleton.h"
+#include "text_paper.h"
+#include "tx_configuration.h"
+
 using namespace Qt::StringLiterals;
 
-unsigned int CompanyPrinterDriver::getPaperWidth() const
+namespace {
+
+constexpr int deviceColumns = 34;
+
+} // namespace
+
+CompanyPrinterDriver::CompanyPrinterDriver(const QString &outputPath, bool append)
+    : CompanyPrinterDriver(
+        SyncSingleton<TXConfiguration>::instance(),
+        std::make_unique<PrintOutput>(outputPath,
+                                      append ? PrintOutput::Opening::append : PrintOutput::Opening::truncate))
 {
-    return 34;
 }
 
-void CompanyPrinterDriver::setCharSize()
+CompanyPrinterDriver::CompanyPrinterDriver(const TXConfiguration &settings,
+                                           std::unique_ptr<PrintOutput> output)
+    : PaperDriver(settings, std::move(output), std::make_unique<TextPaper>(deviceColumns))
 {
-    justification = Justification::left;
-}
-
-void CompanyPrinterDriver::setCharSize(int)
-{
-    justification = Justification::left;
-}
-
-void CompanyPrinterDriver::setCenterJustify()
-{
-    justification = Justification::center;
-}
-
-void CompanyPrinterDriver::print(unsigned int indent, const QString &text)
-{
-    const auto width = static_cast<qsizetype>(getPaperWidth());
-    qsizetype blanks = justification == Justification::center ? (width - text.size()) / 2 : indent;
-    if (width < text.size())
-        blanks = 0;
-    if (blanks > 0)
-        write(QString(blanks, u' '));
-    write(text);
-}
-
-void CompanyPrinterDriver::println(unsigned int indent, const QString &text)
-{
-    print(indent, text);
-    write(u"\n"_s);
-}
-
-void CompanyPrinterDriver::println(const QString &text)
-{
-    println(0, text);
-}
-
-void CompanyPrinterDriver::endSection()
-{
-    if (profile.openCashDrawer)
-        openCashDrawer();
 }
 
 void CompanyPrinterDriver::openCashDrawer()
@@ -55,12 +32,7 @@ void CompanyPrinterDriver::openCashDrawer()
     print(0, u"\x1Bp0"_s);
 }
 
-void CompanyPrinterDriver::setBold() { }
-
-void CompanyPrinterDriver::fullCut() { }
-
-void CompanyPrinterDriver::generatePulse() { }
-
-void CompanyPrinterDriver::startSection() { }
-
-void CompanyPrinterDriver::printLogo() { }
+unsigned int CompanyPrinterDriver::lineWidth() const
+{
+    return getPaperWidth();
+}

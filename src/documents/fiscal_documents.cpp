@@ -22,7 +22,7 @@ void PrinterDriver::printFullOrderFiscal(const QString &qName, const QXmlAttribu
         printRowFiscal(qName, attributes);
 }
 
-// Meant so: one row for each kind of item, always in the quantity 1, with its name in full.
+// Deliberate: one row for each kind of item, always in the quantity 1, with its name in full.
 void PrinterDriver::printAbstractOrderFiscal(const QString &qName, const QXmlAttributes &attributes)
 {
     if (qName == "receipe_type"_L1)

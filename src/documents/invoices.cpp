@@ -9,7 +9,7 @@ void PrinterDriver::printFullOrderInvoice(const QString &qName, const QXmlAttrib
     if (qName == "customer"_L1) {
         printCustomerHeader(attributes);
     } else if (qName == "receipe"_L1) {
-        printItem(attributes, u"qdpt"_s); // Meant so: the full receipt has "qxdpt".
+        printItem(attributes, u"qdpt"_s); // Deliberate: the full receipt has "qxdpt".
     } else if (qName == "totals"_L1) {
         printTaxTotals(attributes);
     }

@@ -7,10 +7,10 @@ using namespace Qt::StringLiterals;
 
 const PrinterDriver::ColumnTitles &PrinterDriver::titles()
 {
-    if (!columnTitles)
-        columnTitles = {QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
-                        QObject::tr("Amount")};
-    return *columnTitles;
+    if (!m_columnTitles)
+        m_columnTitles = {QObject::tr("Num"), QObject::tr("Description"), QObject::tr("Price"),
+                          QObject::tr("Amount")};
+    return *m_columnTitles;
 }
 
 void PrinterDriver::printItem(const QXmlAttributes &item, const QString &format)

@@ -30,7 +30,7 @@ void PrinterDriver::printAbstractOrderReceipt(const QString &qName, const QXmlAt
         printTotalRow(QObject::tr("TOTAL"), attributes.value(u"price"_s));
     } else if (qName == "notPaid"_L1) {
         println(QString());
-        // Meant so: this label is Italian in every language, and indented by one blank less.
+        // Deliberate: this label is Italian in every language, and indented by one blank less.
         println("   Corrispettivo non pagato: "_L1 + attributes.value(u"price"_s));
     }
 }

@@ -17,7 +17,7 @@ public:
     {
     }
 
-    // Meant so: both empty lines are centred here, and only the first in the headings below.
+    // Deliberate: both empty lines are centred here, and only the first in the headings below.
     void printTitle()
     {
         driver.setBold();
@@ -57,7 +57,7 @@ public:
             + QObject::tr("TAX").rightJustified(10) + u' ' + QObject::tr("AMOUNT").rightJustified(10));
     }
 
-    // Meant so: "% " puts the rows one character to the right of their titles, and each ends with a blank.
+    // Deliberate: "% " puts the rows one character to the right of their titles, and each ends with a blank.
     void printTaxRate()
     {
         driver.println(attributes.value(u"taxrate"_s).rightJustified(6) + "% "_L1
@@ -83,7 +83,7 @@ public:
     {
         printHeading(QObject::tr("CANCELLED DOC SUMMARY"));
         printFigure(QObject::tr("Number"), u"number"_s);
-        printFigure(QObject::tr("TOTAL"), u"totals"_s); // Meant so: the other summaries have "total".
+        printFigure(QObject::tr("TOTAL"), u"totals"_s); // Deliberate: the other summaries have "total".
         driver.setBold();
         driver.println(QString());
         printCancelledRow(QObject::tr("SERIAL"), QObject::tr("TOTAL"), QObject::tr("TAXRATE"));
@@ -143,7 +143,7 @@ struct ReportBlock
     void (SummaryReport::*print)();
 };
 
-// Meant so: "prefiscalssummary" has a doubled "s".
+// Deliberate: "prefiscalssummary" has a doubled "s".
 constexpr ReportBlock reportBlocks[] = {
     {"date"_L1, &SummaryReport::printTitle},
     {"prefiscalssummary"_L1, &SummaryReport::printPrefiscals},

@@ -34,47 +34,56 @@ constexpr LabelledLine customerLines[] = {
 
 } // namespace
 
+struct PrinterDriver::Section
+{
+    QLatin1StringView element;
+    void (PrinterDriver::*print)(const QXmlAttributes &);
+};
+
+const PrinterDriver::Section *PrinterDriver::section(const QString &qName)
+{
+    static constexpr Section sections[] = {
+        {"printers"_L1, &PrinterDriver::takePrinter},
+        {"geometry"_L1, &PrinterDriver::printGeometry},
+        {"headers"_L1, &PrinterDriver::printHeadersAndPrinter},
+        {"logo"_L1, &PrinterDriver::printLogoSection},
+        {"company"_L1, &PrinterDriver::printCompanyHeader},
+        {"receipt"_L1, &PrinterDriver::printReceiptHeader},
+        {"invoice"_L1, &PrinterDriver::printInvoiceHeader},
+        {"delivery"_L1, &PrinterDriver::printDeliveryHeader},
+        {"orderinfo"_L1, &PrinterDriver::printOrderInfo},
+    };
+    const auto *found = std::ranges::find(sections, qName, &Section::element);
+    return found == std::end(sections) ? nullptr : found;
+}
+
 bool PrinterDriver::printSections(const QString &qName, const QXmlAttributes &attributes)
 {
-    struct Section
-    {
-        QLatin1StringView element;
-        void (*print)(PrinterDriver &, const QXmlAttributes &);
-    };
-    static constexpr Section sections[] = {
-        {"printers"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &printer) {
-             driver.printerName = printer.value(u"name"_s);
-             driver.printerCharSize = printer.value(u"charsize"_s);
-             driver.printerIpAddress = printer.value(u"ipaddress"_s);
-             driver.printerPort = printer.value(u"port"_s);
-             driver.initPrinter();
-         }},
-        {"geometry"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &texts) { driver.printGeometry(texts); }},
-        {"headers"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &texts) {
-             driver.printHeaders(texts);
-             driver.printPrinterInfo(); // whatever the profile says of header lines
-         }},
-        {"logo"_L1, [](PrinterDriver &driver, const QXmlAttributes &) { driver.printLogo(); }},
-        {"company"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &texts) { driver.printCompanyHeader(texts); }},
-        {"receipt"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &texts) { driver.printReceiptHeader(texts); }},
-        {"invoice"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &texts) { driver.printInvoiceHeader(texts); }},
-        {"delivery"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &texts) { driver.printDeliveryHeader(texts); }},
-        {"orderinfo"_L1,
-         [](PrinterDriver &driver, const QXmlAttributes &texts) { driver.printOrderInfo(texts); }},
-    };
+    const Section *const known = section(qName);
+    if (known)
+        (this->*known->print)(attributes);
+    return known;
+}
 
-    const auto *section = std::ranges::find(sections, qName, &Section::element);
-    if (section == std::end(sections))
-        return false;
-    section->print(*this, attributes);
-    return true;
+void PrinterDriver::takePrinter(const QXmlAttributes &attributes)
+{
+    printerName = attributes.value(u"name"_s);
+    printerCharSize = attributes.value(u"charsize"_s);
+    printerIpAddress = attributes.value(u"ipaddress"_s);
+    printerPort = attributes.value(u"port"_s);
+    initPrinter();
+}
+
+void PrinterDriver::printHeadersAndPrinter(const QXmlAttributes &attributes)
+{
+    printHeaders(attributes);
+    printPrinterInfo(); // whatever the profile says of header lines
+}
+
+// Whatever the profile says of the logo.
+void PrinterDriver::printLogoSection(const QXmlAttributes &)
+{
+    printLogo();
 }
 
 void PrinterDriver::printGeometry(const QXmlAttributes &)
@@ -82,7 +91,7 @@ void PrinterDriver::printGeometry(const QXmlAttributes &)
     if (!profile.printGeometry)
         return;
     const int lines = configuration.getStrValue(documentPrefix + DocumentProfile::topMargin).toInt();
-    for (int line = 0; line < lines; ++line)
+    for (int line = 0; line < lines && takesMore(); ++line)
         println(QString());
 }
 
@@ -114,7 +123,7 @@ void PrinterDriver::printCompanyHeader(const QXmlAttributes &attributes)
     printSeparatorLine();
 }
 
-// Meant so: label and number are one text here and two in the next two blocks, which shows when they are
+// Deliberate: label and number are one text here and two in the next two blocks, which shows when they are
 // centred.
 void PrinterDriver::printReceiptHeader(const QXmlAttributes &attributes)
 {

@@ -25,6 +25,20 @@ struct DocumentProfile
     /* The profile that the values of the settings, asked for by name, make. */
     static DocumentProfile load(const std::function<QString(QLatin1StringView setting)> &value);
 
+    // What the other columns of a row leave for the description, negative where they leave nothing: beside
+    // the quantity alone, beside price and amount, the same with a quantity behind which an "x" stands, and
+    // beside a date and an amount.
+    int besideQuantity() const { return paperWidth - quantityFieldWidth - 3; }
+    int besideAmounts() const
+    {
+        return paperWidth - quantityFieldWidth - priceFieldWidth - totalPriceFieldWidth - 1;
+    }
+    int besideMultipliedAmounts() const { return besideAmounts() - 2; }
+    int besideDateAndAmount() const { return paperWidth - dateWidth - priceFieldWidth - 3; }
+
+    /* The column of a statement's dates, which no setting changes. */
+    static constexpr int dateWidth = 15;
+
     int quantityFieldWidth = 0;
     int priceFieldWidth = 0;
     int totalPriceFieldWidth = 0;

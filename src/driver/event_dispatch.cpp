@@ -17,7 +17,7 @@ struct PrinterDriver::DocumentMethod
 
 const PrinterDriver::DocumentMethod *PrinterDriver::documentMethod(const QString &name)
 {
-    // Meant so: the full order prints with the pre-fiscal profile, and the statement of account with the
+    // Deliberate: the full order prints with the pre-fiscal profile, and the statement of account with the
     // report's.
     static constexpr DocumentMethod methods[] = {
         {"printPartialOrder"_L1, "order"_L1, {}, &PrinterDriver::printPartialOrder},
@@ -54,18 +54,18 @@ bool PrinterDriver::startElement(const QString &, const QString &, const QString
                                  const QXmlAttributes &attributes)
 {
     if (qName != "method"_L1) {
-        if (currentMethod)
-            (this->*currentMethod->printElement)(qName, attributes);
+        if (m_currentMethod)
+            (this->*m_currentMethod->printElement)(qName, attributes);
         return true;
     }
 
-    currentMethod = documentMethod(attributes.value(u"name"_s));
-    if (!currentMethod) {
+    m_currentMethod = documentMethod(attributes.value(u"name"_s));
+    if (!m_currentMethod) {
         printDiagnostic("File Format Not Supported");
         return false;
     }
-    loadValues(currentMethod->documentType);
-    duplicate = currentMethod->duplicate.value_or(duplicate);
+    loadValues(m_currentMethod->documentType);
+    m_duplicate = m_currentMethod->duplicate.value_or(m_duplicate);
     startSection();
     return true;
 }

@@ -15,20 +15,20 @@ class Row
 {
 public:
     /* A text in as many characters as it takes. */
-    Row &as(QStringView column)
+    Row &append(QStringView column)
     {
-        text.append(column.data(), column.size());
+        m_text.append(column.data(), column.size());
         return *this;
     }
 
     /* A text at the right or the left of a column that grows with it. */
     Row &right(QStringView column, int width, QChar fill)
     {
-        return pad(width - column.size(), fill).as(column);
+        return pad(width - column.size(), fill).append(column);
     }
     Row &left(QStringView column, int width, QChar fill)
     {
-        return as(column).pad(width - column.size(), fill);
+        return append(column).pad(width - column.size(), fill);
     }
 
     /* A text at the left of a column that cuts it. */
@@ -37,17 +37,17 @@ public:
         return left(column.first(std::clamp<qsizetype>(width, 0, column.size())), width, fill);
     }
 
-    operator QString() const { return QString(text.data(), text.size()); }
+    operator QString() const { return QString(m_text.data(), m_text.size()); }
 
 private:
     Row &pad(qsizetype count, QChar fill)
     {
         if (count > 0)
-            text.resize(text.size() + count, fill);
+            m_text.resize(m_text.size() + count, fill);
         return *this;
     }
 
-    QVarLengthArray<QChar, 128> text; // longer than most papers are wide
+    QVarLengthArray<QChar, 128> m_text; // longer than most papers are wide
 };
 
 } // namespace
@@ -59,54 +59,53 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
     const int quantityWidth = profile.quantityFieldWidth;
     const int priceWidth = profile.priceFieldWidth;
     const int totalWidth = profile.totalPriceFieldWidth;
-    const int width = profile.paperWidth;
 
-    // Meant so: the quantity, and the total behind a price, are padded with blanks whatever the fill; "qd"
+    // Deliberate: the quantity, and the total behind a price, are padded with blanks whatever the fill; "qd"
     // and "date-amount-type" end short of the paper.
     if (format == "qdpt"_L1)
         return Row()
             .right(quantity, quantityWidth, blank)
-            .as(u" ")
-            .cut(description, width - quantityWidth - priceWidth - totalWidth - 1, fill)
+            .append(u" ")
+            .cut(description, profile.besideAmounts(), fill)
             .right(price, priceWidth, fill)
             .right(totalPrice, totalWidth, blank);
     if (format == "qxdpt"_L1)
         return Row()
             .right(quantity, quantityWidth, blank)
-            .as(u" x ")
-            .cut(description, width - quantityWidth - priceWidth - totalWidth - 3, fill)
+            .append(u" x ")
+            .cut(description, profile.besideMultipliedAmounts(), fill)
             .right(price, priceWidth, fill)
             .right(totalPrice, totalWidth, blank);
     if (format == "qxdtDoubleLine"_L1)
         return Row()
-            .as(quantity)
-            .as(u" x ")
-            .as(price)
-            .as(u"\n")
-            .cut(description, width - totalWidth, fill)
+            .append(quantity)
+            .append(u" x ")
+            .append(price)
+            .append(u"\n")
+            .cut(description, profile.paperWidth - totalWidth, fill)
             .right(totalPrice, totalWidth, fill);
     if (format == "qxd"_L1)
         return Row()
             .right(quantity, quantityWidth, blank)
-            .as(u" x ")
-            .cut(description, width - quantityWidth - 3, fill);
+            .append(u" x ")
+            .cut(description, profile.besideQuantity(), fill);
     if (format == "qd"_L1)
         return Row()
             .right(quantity, quantityWidth, blank)
-            .as(u" ")
-            .cut(description, width - quantityWidth - 3, blank);
+            .append(u" ")
+            .cut(description, profile.besideQuantity(), blank);
     if (format == "date-amount-type"_L1)
         return Row()
-            .left(quantity, 15, blank)
-            .cut(description, width - 15 - priceWidth - 3, fill)
+            .left(quantity, DocumentProfile::dateWidth, blank)
+            .cut(description, profile.besideDateAndAmount(), fill)
             .right(price, priceWidth, fill);
     return {};
 }
 
 bool PrinterDriver::oneTime()
 {
-    const bool first = !oneTimeDone;
-    oneTimeDone = true;
+    const bool first = !m_oneTimeDone;
+    m_oneTimeDone = true;
     return first;
 }
 

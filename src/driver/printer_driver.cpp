@@ -1,35 +1,33 @@
 #include "printer_driver.h"
 
 #include "diagnostic.h"
+#include "print_output.h"
 #include "sync_singleton.h"
 #include "tx_configuration.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
-// Unbuffered: the stream has a buffer of its own, and what could not be written must not be tried again.
 PrinterDriver::PrinterDriver(const QString &outputPath, bool append)
-    : configuration(SyncSingleton<TXConfiguration>::instance())
-    , outputFile(outputPath)
+    : PrinterDriver(SyncSingleton<TXConfiguration>::instance(),
+                    std::make_unique<PrintOutput>(
+                        outputPath, append ? PrintOutput::Opening::append : PrintOutput::Opening::truncate))
 {
-    QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    mode.setFlag(QIODevice::Append, append);
-    if (outputFile.open(mode))
-        outputStream = std::make_unique<QTextStream>(&outputFile);
-    else
-        printDiagnostic("PrintManager::printAbstractOrder(...): Unable To Open File");
 }
 
-PrinterDriver::~PrinterDriver()
+PrinterDriver::PrinterDriver(const TXConfiguration &settings, std::unique_ptr<PrintOutput> output)
+    : configuration(settings)
+    , m_output(output ? std::move(output) : std::make_unique<PrintOutput>())
 {
-    if (!outputStream)
-        return;
-    outputStream->flush();
-    if (outputStream->status() != QTextStream::Ok)
-        reportFailedOutput();
+}
+
+PrinterDriver::~PrinterDriver() = default;
+
+void PrinterDriver::finish(Ending)
+{
+    m_output->close();
 }
 
 QString PrinterDriver::documentPath(const QString &docType) const
@@ -51,24 +49,9 @@ void PrinterDriver::loadValues(const QString &docType)
         profile.paperWidth = static_cast<int>(getPaperWidth());
 }
 
-void PrinterDriver::write(const QString &text)
+bool PrinterDriver::takesMore() const
 {
-    if (!outputStream)
-        return;
-    *outputStream << text;
-    if (outputStream->status() != QTextStream::Ok) {
-        reportFailedOutput();
-        // A stream in error would keep all further text in memory.
-        outputStream.reset();
-    }
-}
-
-// The file knows no reason when the failed write was the rest of one that succeeded in part; the system does.
-void PrinterDriver::reportFailedOutput()
-{
-    const QByteArray reason = std::strerror(errno);
-    printDiagnostic("Error in the method PrinterDriver::print( " + QFile::encodeName(outputFile.fileName())
-                    + " ): " + reason);
+    return !m_output->failed();
 }
 
 void PrinterDriver::reset() { }
@@ -83,5 +66,5 @@ void PrinterDriver::printAbstractOrder(const QString &, const QXmlAttributes &) 
 
 bool PrinterDriver::printDuplicate()
 {
-    return duplicate;
+    return m_duplicate;
 }

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "document_profile.h"
+#include "ending.h"
 
-#include <QFile>
-#include <QTextStream>
 #include <QXmlAttributes>
 #include <QXmlDefaultHandler>
 
 #include <memory>
 #include <optional>
 
+class PrintOutput;
 class TXConfiguration;
 
 /*
@@ -24,15 +24,25 @@ class TXConfiguration;
 class PrinterDriver : public QXmlDefaultHandler
 {
 public:
-    /* Opens the output, truncated or, with append, at its end. If that fails one line is printed on standard
-     * output and nothing will be written anywhere. */
+    /* Prints to the file, truncated or, with append, from its end on, with the user's configuration. If the
+     * file cannot be opened one line is printed on standard output and nothing will be written anywhere. */
     PrinterDriver(const QString &outputPath, bool append);
+
+    /* Prints to the output, or nowhere without one, with a configuration that outlives the driver. */
+    PrinterDriver(const TXConfiguration &settings, std::unique_ptr<PrintOutput> output);
 
     PrinterDriver(const PrinterDriver &) = delete;
     PrinterDriver &operator=(const PrinterDriver &) = delete;
 
-    /* Writes what is still buffered and closes the output. */
+    /* Finishes the output, as finish does, unless that was done. */
     ~PrinterDriver() override;
+
+    /* Called once all that there is of the document was read: all that was printed is on its way when it
+     * returns, and later text goes nowhere. Devices derived from this one end the paper first. */
+    virtual void finish(Ending ending);
+
+    /* The output given at construction. */
+    PrintOutput &output() { return *m_output; }
 
     /* The key prefix, with its final dot, of a document type's settings. A type that is not known prints one
      * line on standard output and gets the pre-fiscal prefix. */
@@ -130,9 +140,9 @@ public:
 protected:
     enum class Justification { left, center };
 
-    /* Puts text on the output as it is. The first failure prints one line on standard output and ends all
-     * writing. */
-    void write(const QString &text);
+    /* False when what follows could not be printed anyway, so that long work may end: once the output failed.
+     */
+    virtual bool takesMore() const;
 
     // What several documents print alike: an item with its price and amount in one of the row formats, a kind
     // of item with its amount alone (both below the column titles), a label with its amount in the total
@@ -174,13 +184,19 @@ private:
     struct DocumentMethod;
     static const DocumentMethod *documentMethod(const QString &name);
 
-    void printAddress(const QString &address);
-    void reportFailedOutput();
+    struct Section;
+    static const Section *section(const QString &qName);
 
-    const DocumentMethod *currentMethod = nullptr;
-    QFile outputFile;
-    std::unique_ptr<QTextStream> outputStream;
-    bool duplicate = false;
-    bool oneTimeDone = false;
-    std::optional<ColumnTitles> columnTitles;
+    // The sections that are no header block of their own.
+    void takePrinter(const QXmlAttributes &attributes);
+    void printHeadersAndPrinter(const QXmlAttributes &attributes);
+    void printLogoSection(const QXmlAttributes &attributes);
+
+    void printAddress(const QString &address);
+
+    std::unique_ptr<PrintOutput> m_output;
+    const DocumentMethod *m_currentMethod = nullptr;
+    bool m_duplicate = false;
+    bool m_oneTimeDone = false;
+    std::optional<ColumnTitles> m_columnTitles;
 };

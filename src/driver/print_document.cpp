@@ -1,0 +1,113 @@
+#include "print_document.h"
+
+#include "bounded_document.h"
+#include "printer_driver.h"
+
+#include <QIODevice>
+#include <QXmlSimpleReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isNamespaceDeclaration(const QString &attribute)
+{
+    return attribute == "xmlns"_L1 || attribute.startsWith("xmlns:"_L1);
+}
+
+bool hasNamespaceDeclaration(const QXmlAttributes &attributes)
+{
+    for (int i = 0; i < attributes.count(); ++i)
+        if (isNamespaceDeclaration(attributes.qName(i)))
+            return true;
+    return false;
+}
+
+QXmlAttributes withoutNamespaceDeclarations(const QXmlAttributes &attributes)
+{
+    QXmlAttributes others;
+    for (int i = 0; i < attributes.count(); ++i)
+        if (!isNamespaceDeclaration(attributes.qName(i)))
+            others.append(attributes.qName(i), attributes.uri(i), attributes.localName(i),
+                          attributes.value(i));
+    return others;
+}
+
+/* What the reader calls: hands the document on to the driver, within the bounds, and notes how it ended. */
+class DocumentHandler : public QXmlDefaultHandler
+{
+public:
+    DocumentHandler(BoundedDocument &document, PrinterDriver &driver)
+        : m_document(document)
+        , m_driver(driver)
+    {
+    }
+
+    bool startDocument() override { return m_driver.startDocument(); }
+    bool endDocument() override { return m_driver.endDocument(); }
+
+    bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
+                      const QXmlAttributes &attributes) override
+    {
+        if (!m_document.descend())
+            return false;
+        // The driver alone stops the reader, at an unknown method.
+        const bool known = hasNamespaceDeclaration(attributes)
+            ? m_driver.startElement(namespaceURI, localName, qName, withoutNamespaceDeclarations(attributes))
+            : m_driver.startElement(namespaceURI, localName, qName, attributes);
+        if (!known) {
+            m_reading.end = Reading::End::unknownMethod;
+            m_reading.reason = u"unknown method \"%1\""_s.arg(attributes.value(u"name"_s));
+        }
+        return known;
+    }
+
+    bool endElement(const QString &namespaceURI, const QString &localName, const QString &qName) override
+    {
+        return m_driver.endElement(namespaceURI, localName, qName);
+    }
+
+    bool internalEntityDecl(const QString &name, const QString &value) override
+    {
+        return m_document.declare(name, value);
+    }
+
+    bool fatalError(const QXmlParseException &fault) override
+    {
+        m_reading.line = fault.lineNumber();
+        m_reading.column = fault.columnNumber();
+        if (m_reading.end == Reading::End::document) {
+            m_reading.end = Reading::End::fault;
+            m_reading.reason = m_document.excess().isEmpty() ? fault.message() : m_document.excess();
+        }
+        return false;
+    }
+
+    const Reading &reading() const { return m_reading; }
+
+private:
+    BoundedDocument &m_document;
+    PrinterDriver &m_driver;
+    Reading m_reading;
+};
+
+} // namespace
+
+Reading printDocument(QIODevice &document, PrinterDriver &driver)
+{
+    if (!document.isOpen() && !document.open(QIODevice::ReadOnly))
+        return {Reading::End::unreadable, 0, 0, document.errorString()};
+
+    BoundedDocument source(document);
+    DocumentHandler handler(source, driver);
+    QXmlSimpleReader reader;
+    // Nothing looks at namespaces, and processing them takes the reader memory and time by the square of
+    // their declarations.
+    reader.setFeature(u"http://xml.org/sax/features/namespaces"_s, false);
+    reader.setContentHandler(&handler);
+    reader.setDeclHandler(&handler);
+    reader.setErrorHandler(&handler);
+    reader.parse(source);
+    driver.finish(handler.reading().complete() ? Ending::complete : Ending::incomplete);
+    return handler.reading();
+}
