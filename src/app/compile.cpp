@@ -17,7 +17,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +44,24 @@ void keepStandardStreamsOpen()
             (void)open("/dev/null", O_RDWR);
 }
 
+const char *outputName = "";
+PrinterDriver *printing = nullptr;
+
+// What ends a program without a handler: memory that ran out, where the toolkit lets nothing be unwound. What was
+// printed needs no more memory to be sent.
+[[noreturn]] void endWithoutMemory()
+{
+    try {
+        if (printing)
+            printing->finish(Ending::incomplete);
+        PrintOutput::reportFailure(fileNameFromBytes(outputName), std::strerror(ENOMEM));
+    } catch (...) {
+        if (printing)
+            printing->output().flush();
+    }
+    std::_Exit(EXIT_SUCCESS);
+}
+
 } // namespace
 
 void compile(int argc, char *argv[])
@@ -52,6 +74,8 @@ void compile(int argc, char *argv[])
     }
 
     QCoreApplication application(argc, argv); // takes the toolkit's own options out of argv
+    outputName = argv[2];
+    std::set_terminate(endWithoutMemory);
     const TXConfiguration &configuration = SyncSingleton<TXConfiguration>::instance();
 
     QTranslator translator;
@@ -68,8 +92,10 @@ void compile(int argc, char *argv[])
     const std::unique_ptr<PrinterDriver> driver =
         makeDriver(configuration,
                    std::make_unique<PrintOutput>(fileNameFromBytes(argv[2]), PrintOutput::Opening::truncate));
+    printing = driver.get();
     const int input = open(argv[1], O_RDONLY | O_CLOEXEC);
     QFile document;
     if (input >= 0 && document.open(input, QIODevice::ReadOnly, QFile::AutoCloseHandle))
         printDocument(document, *driver);
+    printing = nullptr;
 }

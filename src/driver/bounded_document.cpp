@@ -85,12 +85,10 @@ void BoundedDocument::fetchData()
         return;
     }
     QXmlInputSource::fetchData();
-    if (!m_entities.isEmpty()) {
-        const QString text = data();
-        const qsizetype length = lengthWithinExpansion(text);
-        if (length < text.size())
-            setData(text.first(length));
-    }
+    m_text = data();
+    m_before = m_after;
+    if (const qsizetype length = countReferences(); length < m_text.size())
+        setData(m_text.first(length));
 }
 
 bool BoundedDocument::descend()
@@ -110,7 +108,9 @@ bool BoundedDocument::declare(const QString &entity, const QString &value)
     const qint64 count = m_entities.size();
     m_declaredCharacters += value.size();
     m_comparisons += m_declaredCharacters + count * (value.size() + eachComparison);
-    return m_comparisons <= maximumComparisons || exceed(u"too many entities are declared"_s);
+    if (m_comparisons > maximumComparisons)
+        return exceed(u"too many entities are declared"_s);
+    return countReferences() == m_text.size(); // it may be referred to later in the same text
 }
 
 bool BoundedDocument::isTooDeep()
@@ -127,39 +127,42 @@ bool BoundedDocument::exceed(const QString &excess)
     return false;
 }
 
-// How much of the text can be read before its references expand to too much.
-qsizetype BoundedDocument::lengthWithinExpansion(QStringView text)
+// Returns how much of the text can be read before its references expand to too much.
+qsizetype BoundedDocument::countReferences()
 {
-    qsizetype length = text.size();
-    forEachReference(text, m_longestName, m_reference, [&](const QString &reference, qsizetype end) {
-        m_expansion += expandedLength(reference, 0);
-        if (m_expansion <= maximumExpansion)
-            return true;
-        exceed(u"its entities expand to too much"_s);
-        length = end;
-        return false;
-    });
+    qsizetype length = m_text.size();
+    m_after = m_before;
+    if (m_entities.isEmpty())
+        return length;
+    forEachReference(m_text, m_longestName, m_after.openReference,
+                     [&](const QString &reference, qsizetype end) {
+                         m_after.length += expandedLength(reference, 0);
+                         if (m_after.length <= maximumExpansion)
+                             return true;
+                         exceed(u"its entities expand to too much"_s);
+                         length = end;
+                         return false;
+                     });
     return length;
 }
 
-// Predefined entities and those of characters are not declared and expand to nothing. What nests without end,
-// as what refers to itself does, and what cannot be counted expands to too much.
+// Predefined entities and those of characters are not declared and expand to nothing. What cannot be counted
+// expands to too much.
 qint64 BoundedDocument::expandedLength(const QString &entity, int depth)
 {
-    constexpr int deepest = 100;
+    constexpr int deepest = 1000;
     constexpr qint64 tooMuch = maximumExpansion + 1;
-    if (depth > deepest)
-        return tooMuch;
     if (const auto known = m_expandedLengths.constFind(entity); known != m_expandedLengths.cend())
         return *known;
     const auto declared = m_entities.constFind(entity);
     if (declared == m_entities.cend())
         return 0;
     // Parameter entities alone are read where the percent sign means anything.
-    if (endsInHalfReference(*declared, u'&')
+    if (depth > deepest || endsInHalfReference(*declared, u'&')
         || (entity.startsWith(u'%') && endsInHalfReference(*declared, u'%')))
         return tooMuch;
 
+    m_expandedLengths.insert(entity, 0); // what comes back to itself is refused by the reader
     qint64 length = declared->size();
     QString reference;
     forEachReference(*declared, m_longestName, reference, [&](const QString &nested, qsizetype) {

@@ -45,7 +45,7 @@ public:
 private:
     bool isTooDeep();
     bool exceed(const QString &excess);
-    qsizetype lengthWithinExpansion(QStringView text);
+    qsizetype countReferences();
     qint64 expandedLength(const QString &entity, int depth);
 
     std::uintptr_t m_stackBase = 0; // where the reader began
@@ -57,8 +57,17 @@ private:
     qsizetype m_longestName = 0;
     qint64 m_declaredCharacters = 0;
     qint64 m_comparisons = 0;
-    qint64 m_expansion = 0;
-    QString m_reference; // that the text so far ends in
+
+    // What the references so far expand to, and the reference that the text ends in: before the text that was
+    // fetched last, and after it.
+    struct Expansion
+    {
+        qint64 length = 0;
+        QString openReference = {};
+    };
+    QString m_text;
+    Expansion m_before;
+    Expansion m_after;
 
     QString m_excess;
 };

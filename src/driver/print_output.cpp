@@ -94,5 +94,10 @@ void PrintOutput::send(const char *bytes, std::size_t count)
 void PrintOutput::fail(const char *reason)
 {
     m_state = State::failed;
-    printDiagnostic("Error in the method PrinterDriver::print( " + shownFileName(m_name) + " ): " + reason);
+    reportFailure(m_name, reason);
+}
+
+void PrintOutput::reportFailure(const QString &name, const char *reason)
+{
+    printDiagnostic("Error in the method PrinterDriver::print( " + shownFileName(name) + " ): " + reason);
 }

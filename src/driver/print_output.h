@@ -52,6 +52,9 @@ public:
     /* Sends all that was written so far. */
     void flush();
 
+    /* Prints the line that tells of a failure, on standard output. */
+    static void reportFailure(const QString &name, const char *reason);
+
     /* Sends the rest and closes what the output opened itself; later bytes go nowhere. File systems with a
      * quota or across a network tell only now that they kept nothing. Calls after the first do nothing. */
     void close();

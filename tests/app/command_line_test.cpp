@@ -123,6 +123,18 @@ private Q_SLOTS:
         QCOMPARE(fileBytes(output), printedReceipt);
     }
 
+    // The toolkit takes its own options out of the arguments before anything else looks at them.
+    void optionsOfTheToolkitAreNoFileNames()
+    {
+        const TemporaryHome home;
+        home.writeConfiguration(configuration);
+        const QString output = home.filePath(u"printed.txt"_s);
+        QCOMPARE(
+            messagesOf(home, {u"-qmljsdebugger=none"_s, home.writeFile(u"document.xml"_s, receipt), output}),
+            "");
+        QCOMPARE(fileBytes(output), printedReceipt);
+    }
+
     void outputIsTruncated()
     {
         const TemporaryHome home;
@@ -276,6 +288,7 @@ private Q_SLOTS:
         found("file", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en.qm\";");
         found("file without its suffix", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en\";");
         found("file with more in its name", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en_US\";");
+        found("file with more behind a dot", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en.US\";");
         notFound("file with less in its name", u"lang/en_US.qm"_s, "basedir = \"~/lang\"; file = \"/en\";");
         found("joined without a separator", u"langen.qm"_s, "basedir = \"~/lang\"; file = en.qm;");
         notFound("no separator comes between", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = en.qm;");

@@ -206,6 +206,32 @@ private Q_SLOTS:
         QCOMPARE(printed([](CompanyPrinterDriver &printer) { printer.openCashDrawer(); }), "\x1Bp0"_ba);
     }
 
+    void allTextPassesThroughPrint()
+    {
+        class Listening : public CompanyPrinterDriver
+        {
+        public:
+            Listening()
+                : CompanyPrinterDriver(u"/dev/null"_s, false)
+            {
+                profile.paperWidth = 3;
+                profile.openCashDrawer = true;
+            }
+            void print(unsigned int indent, const QString &text) override
+            {
+                printed += QString::number(indent) + u' ' + text;
+            }
+            QStringList printed;
+        };
+
+        Listening printer;
+        printer.println(u"a"_s);
+        printer.println(2, u"b"_s);
+        printer.printSeparatorLine();
+        printer.endSection();
+        QCOMPARE(printer.printed, (QStringList{u"0 a"_s, u"2 b"_s, u"0 ==="_s, u"0 \x1Bp0"_s}));
+    }
+
     void drawerOpeningCanBeReplaced()
     {
         class OtherDrawer : public CompanyPrinterDriver

@@ -118,6 +118,19 @@ private Q_SLOTS:
         QCOMPARE(driver.printDuplicate(), duplicateAfterFiscal);
     }
 
+    void sectionStartsWithWhetherToPrintTwice()
+    {
+        class SectionDriver : public RecordingDriver
+        {
+        public:
+            void startSection() override { note(printDuplicate() ? u"twice"_s : u"once"_s); }
+        };
+        SectionDriver driver;
+        startElement(driver, u"method"_s, u"printFullOrderInvoice"_s);
+        startElement(driver, u"method"_s, u"printFullOrderFiscal"_s);
+        QCOMPARE(driver.calls, calls({"twice", "once"}));
+    }
+
     void invoiceAndThenFiscalIsNoDuplicate()
     {
         DispatchRecorder driver;

@@ -407,6 +407,52 @@ private Q_SLOTS:
         QCOMPARE(fileBytes(path), "==================================\n"_ba);
     }
 
+    // A device may replace any of them, those that only other operations call as well.
+    void headerBlocksAndSectionsCanBeReplaced()
+    {
+        class OtherBlocks : public RecordingDriver
+        {
+        public:
+            void printGeometry(const QXmlAttributes &) override { note(u"geometry"_s); }
+            void printPrinterInfo() override { note(u"printer info"_s); }
+            void printHeaders(const QXmlAttributes &) override { note(u"headers"_s); }
+            void printCompanyHeader(const QXmlAttributes &) override { note(u"company"_s); }
+            void printReceiptHeader(const QXmlAttributes &) override { note(u"receipt"_s); }
+            void printInvoiceHeader(const QXmlAttributes &) override { note(u"invoice"_s); }
+            void printDeliveryHeader(const QXmlAttributes &) override { note(u"delivery"_s); }
+            void printCustomerHeader(const QXmlAttributes &) override { note(u"customer"_s); }
+            void printOrderInfo(const QXmlAttributes &) override { note(u"order info"_s); }
+            bool printDuplicate() override { return true; }
+        };
+        OtherBlocks device;
+        PrinterDriver &driver = device;
+        for (const QString &element :
+             {u"printers"_s, u"geometry"_s, u"headers"_s, u"logo"_s, u"company"_s, u"receipt"_s, u"invoice"_s,
+              u"delivery"_s, u"orderinfo"_s, u"customer"_s})
+            driver.printFullOrder(element, {});
+        QCOMPARE(device.calls,
+                 calls({"initPrinter", "geometry", "headers", "printer info", "printLogo", "company",
+                        "receipt", "invoice", "delivery", "order info", "customer"}));
+        QVERIFY(driver.printDuplicate());
+    }
+
+    void sectionsCanBeReplaced()
+    {
+        class OtherSections : public RecordingDriver
+        {
+        public:
+            bool printSections(const QString &qName, const QXmlAttributes &) override
+            {
+                note(u"section "_s + qName);
+                return true;
+            }
+        };
+        OtherSections device;
+        PrinterDriver &driver = device;
+        driver.printSold(u"receipe"_s, {});
+        QCOMPARE(device.calls, calls({"section receipe"}));
+    }
+
     void settingsAreReadInTheirOrder()
     {
         QStringList asked;

@@ -91,6 +91,52 @@ private Q_SLOTS:
                      + cannotOpenOutput() + "File Format Not Supported\n");
     }
 
+    // More than the memory that a run has here. With the address sanitizer that has a limit of its own, and a
+    // word to say.
+    void memoryRunsOut()
+    {
+        PrintRun run;
+        run.environment[u"ASAN_OPTIONS"_s] =
+            u"max_allocation_size_mb=256:allocator_may_return_null=1:log_path=/dev/null"_s;
+        run.home.writeFile(
+            u"document.xml"_s,
+            document(item(1, "Pasta") + item(2, QByteArray(150'000'000, 'x')) + item(3, "Vino")));
+        const ProgramResult result = run.run();
+        QCOMPARE(misbehaviour(result), QByteArray());
+        QCOMPARE(result.standardOutput, cannotWrite(run.output, "Cannot allocate memory"));
+        QCOMPARE(run.printed(), row(1, "Pasta"));
+    }
+
+    // The names of document and output reach the system as the bytes that they came as.
+    void fileNamesThatAreNoText()
+    {
+        const PrintRun run;
+        const ProgramResult result =
+            runProgram(u"sh"_s,
+                       {u"-c"_s,
+                        u"name=$(printf 'a\\377\\n\\033b') && mv document.xml \"$name.xml\" &&"
+                        " \"$1\" \"$name.xml\" \"$name.txt\" && mv \"$name.txt\" printed.txt"_s,
+                        u"sh"_s, PrintRun::program()},
+                       run.environment, {}, inFolder(run.home.path()));
+        QCOMPARE(misbehaviour(result), QByteArray());
+        QCOMPARE(result.standardOutput, QByteArray());
+        QCOMPARE(run.printed(), row(1, "Pasta"));
+    }
+
+    void messagesShowFileNamesOnOneLine()
+    {
+        const PrintRun run;
+        const ProgramResult result = runProgram(u"sh"_s,
+                                                {u"-c"_s,
+                                                 u"ln -s /dev/full \"$(printf 'a\\377\\n\\033b')\" &&"
+                                                 " \"$1\" document.xml \"$(printf 'a\\377\\n\\033b')\""_s,
+                                                 u"sh"_s, PrintRun::program()},
+                                                run.environment, {}, inFolder(run.home.path()));
+        QCOMPARE(misbehaviour(result), QByteArray());
+        QCOMPARE(result.standardOutput,
+                 "Error in the method PrinterDriver::print( a\xFF??b ): No space left on device\n"_ba);
+    }
+
     void noEnvironment()
     {
         PrintRun run;

@@ -218,8 +218,8 @@ private Q_SLOTS:
             return QByteArray("<a>").repeated(levels) + QByteArray("</a>").repeated(levels);
         };
 
-        QTest::newRow("2,000 nested elements")
-            << document(first + nested(2000) + last) << row(1, "Pasta") + row(2, "Vino");
+        QTest::newRow("8,000 nested elements")
+            << document(first + nested(8000) + last) << row(1, "Pasta") + row(2, "Vino");
         QTest::newRow("1,000,000 nested elements")
             << document(first + nested(million) + last) << row(1, "Pasta");
         QTest::newRow("1,000,000 nested elements without an end")
@@ -244,6 +244,20 @@ private Q_SLOTS:
         QByteArray attributes;
         for (int number = 0; number < 100'000; ++number)
             attributes += " a" + QByteArray::number(number) + "=\"\"";
+        QByteArray namespaces;
+        for (int number = 0; number < 50'000; ++number)
+            namespaces += " xmlns:a" + QByteArray::number(number) + "=\"u\"";
+        QTest::newRow("50,000 namespaces of one element")
+            << document(first + "<receipe number=\"2\" name=\"Vino\"" + namespaces + "/>")
+            << row(1, "Pasta") + row(2, "Vino");
+        QByteArray nestedNamespaces;
+        for (int number = 0; number < 2000; ++number)
+            nestedNamespaces += "<a xmlns:b" + QByteArray::number(number) + "='u' xmlns:c"
+                + QByteArray::number(number) + "='v'>";
+        QTest::newRow("two namespaces in each of 2,000 nested elements")
+            << document(first + nestedNamespaces + QByteArray("</a>").repeated(2000) + last)
+            << row(1, "Pasta") + row(2, "Vino");
+
         QTest::newRow("100,000 attributes")
             << document(first + "<receipe number=\"2\" name=\"Vino\"" + attributes + "/>")
             << row(1, "Pasta") + row(2, "Vino");
@@ -258,6 +272,25 @@ private Q_SLOTS:
         verifyPrints(run, printed);
     }
 
+    void smallStack_data()
+    {
+        QTest::addColumn<unsigned long>("kilobytes");
+        for (const unsigned long kilobytes : {256UL, 1024UL, 8192UL})
+            QTest::addRow("%lu KB", kilobytes) << kilobytes;
+    }
+
+    // As much of it as there is is used, and no more.
+    void smallStack()
+    {
+        QFETCH(const unsigned long, kilobytes);
+        PrintRun run;
+        run.beforeStart = [kilobytes] { limitStack(kilobytes * 1024); };
+        run.home.writeFile(u"document.xml"_s,
+                           document(item(1, "Pasta") + QByteArray("<a>").repeated(200) + item(2, "Vino")
+                                    + QByteArray("<a>").repeated(million)));
+        verifyPrints(run, row(1, "Pasta") + row(2, "Vino"));
+    }
+
     void entities_data()
     {
         QTest::addColumn<QByteArray>("text");
@@ -270,17 +303,40 @@ private Q_SLOTS:
         QTest::newRow("an entity or two")
             << withDeclarations(entity("w", "Wein") + entity("e", "&w; &amp; Brot"), document(item(1, "&e;")))
             << row(1, "Wein & Brot");
-        QTest::newRow("100 declared")
-            << withDeclarations(manyEntities(100, longest), document(item(1, "&e99;")))
-            << row(1, longest.first(14));
-        QTest::newRow("101 declared")
-            << withDeclarations(manyEntities(101, "x"), document(first)) << QByteArray();
-        QTest::newRow("10,000 declared")
-            << withDeclarations(manyEntities(10'000, "x"), document(first)) << QByteArray();
-        QTest::newRow("longer than 4096 characters")
-            << withDeclarations(entity("e", longest + 'x'), document(first)) << QByteArray();
-        QTest::newRow("markup in an entity")
-            << withDeclarations(entity("e", "<a>"), document(first)) << QByteArray();
+        QTest::newRow("1,000 declared")
+            << withDeclarations(manyEntities(1000, "x"), document(item(1, "&e999;"))) << row(1, "x");
+        QTest::newRow("20,000 declared")
+            << withDeclarations(manyEntities(20'000, "x"), document(first)) << QByteArray();
+        QTest::newRow("one of 10,000,000 characters")
+            << withDeclarations(entity("e", QByteArray(10 * million, 'x')), document(item(1, "&e;") + last))
+            << row(1, QByteArray(14, 'x')) + row(2, "Vino");
+        QTest::newRow("markup in an entity that nobody uses")
+            << withDeclarations(entity("br", "<b/>"), document(first)) << row(1, "Pasta");
+        QTest::newRow("an item in an entity")
+            << withDeclarations(entity("e", "<receipe number='2' name='Vino'/>"), document(first + "&e;"))
+            << row(1, "Pasta") + row(2, "Vino");
+        QTest::newRow("1,000,000 nested elements in an entity") << withDeclarations(
+            entity("e", QByteArray("<a>").repeated(million)), document(first + "&e;" + last))
+                                                                << row(1, "Pasta");
+        QTest::newRow("a predefined entity declared again")
+            << withDeclarations(entity("lt", "&#38;#60;") + entity("gt", "<"), document(item(1, "&lt;&gt;")))
+            << row(1, "<>");
+        QTest::newRow("a percent sign in an entity")
+            << withDeclarations(entity("e", "10&#37;"), document(item(1, "&e; off"))) << row(1, "10% off");
+        QTest::newRow("half a reference, made whole by what follows")
+            << withDeclarations(entity("e", longest) + entity("h", "&#38;e"),
+                                document(first + QByteArray(1024, ' ') + item(2, "&h;;")))
+            << row(1, "Pasta");
+
+        QByteArray offers;
+        QByteArray offersPrinted;
+        for (int number = 0; number < 10'050; ++number) {
+            offers += item(number % 1000, "&amp; 10% &lt;");
+            offersPrinted += row(number % 1000, "& 10% <");
+        }
+        QTest::newRow("one declared, 10,050 items with predefined ones and percent signs")
+            << withDeclarations(entity("e", "Vino"), document(offers + item(2, "&e;")))
+            << offersPrinted + row(2, "Vino");
 
         QTest::newRow("10,000 references in an attribute")
             << withDeclarations(entity("e", longest),
@@ -295,9 +351,9 @@ private Q_SLOTS:
         QTest::newRow("1,000,000 references in a declaration") << withDeclarations(
             entity("% p", longest) + entity("e", QByteArray("%p;").repeated(million)), document(first))
                                                                << QByteArray();
-        QTest::newRow("1,000,000 predefined references")
-            << document(first + item(2, QByteArray("&amp;").repeated(million)))
-            << row(1, "Pasta") + row(2, QByteArray(14, '&'));
+        QTest::newRow("1,000,000 predefined references") << withDeclarations(
+            entity("e", longest), document(first + item(2, QByteArray("&amp;").repeated(million))))
+                                                         << row(1, "Pasta") + row(2, QByteArray(14, '&'));
 
         QTest::newRow("ten to the tenth characters in text")
             << withDeclarations(tenfoldEntities(), document(first + "&e9;" + last)) << QByteArray();

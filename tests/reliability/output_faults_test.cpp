@@ -98,6 +98,29 @@ private Q_SLOTS:
         QCOMPARE(result.standardOutput, cannotWrite(run.output, "No space left on device"));
     }
 
+    // Otherwise it would go on for minutes, for nothing.
+    void longWorkEndsWithTheOutput_data()
+    {
+        QTest::addColumn<QString>("output");
+        QTest::addColumn<QByteArray>("message");
+        QTest::newRow("full device") << u"/dev/full"_s
+                                     << cannotWrite(u"/dev/full"_s, "No space left on device");
+        QTest::newRow("no output") << u"/missing/printed.txt"_s << cannotOpenOutput();
+    }
+
+    void longWorkEndsWithTheOutput()
+    {
+        QFETCH(const QString, output);
+        PrintRun run;
+        run.home.writeConfiguration(
+            "tavolux : { doc : { printGeometry = true; topMargin = 2000000000; }; };");
+        run.home.writeFile(u"document.xml"_s, document(QByteArray("<geometry/>").repeated(100)));
+        run.output = output;
+        const ProgramResult result = run.run();
+        QCOMPARE(misbehaviour(result), QByteArray());
+        QTEST(result.standardOutput, "message");
+    }
+
     void fileThatMayNotGrow_data()
     {
         QTest::addColumn<int>("bytes");

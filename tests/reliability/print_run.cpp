@@ -57,7 +57,9 @@ ProgramResult PrintRun::run() const
     // The sanitizer reserves terabytes of addresses; its own limit is on what is resident, with what it keeps
     // for itself.
     if (addressSanitizer)
-        variables[u"ASAN_OPTIONS"_s] = qEnvironmentVariable("ASAN_OPTIONS") + ":hard_rss_limit_mb=768"_L1;
+        variables[u"ASAN_OPTIONS"_s] =
+            variables.value(u"ASAN_OPTIONS"_s, qEnvironmentVariable("ASAN_OPTIONS"))
+            + ":hard_rss_limit_mb=768"_L1;
     return runProgram(program(), {input, output}, variables, {}, [this] {
         if (!addressSanitizer)
             limitMemory();
@@ -149,6 +151,13 @@ void limitFileSize(unsigned long bytes)
 {
     const rlimit limit = {bytes, bytes};
     if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
+        _exit(127);
+}
+
+void limitStack(unsigned long bytes)
+{
+    const rlimit limit = {bytes, bytes};
+    if (setrlimit(RLIMIT_STACK, &limit) != 0)
         _exit(127);
 }
 

@@ -59,6 +59,8 @@ QByteArray cannotReadConfiguration(const QString &file);
 void becomeOrdinaryUser();
 /* No file can grow beyond so many bytes. */
 void limitFileSize(unsigned long bytes);
+/* The stack of the program's first thread has no more than so many bytes. */
+void limitStack(unsigned long bytes);
 
 /* Whether file systems can be mounted here, in a mount namespace of one's own. */
 bool canMount();
