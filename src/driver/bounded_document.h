@@ -17,7 +17,7 @@ class BoundedDocument : public QXmlInputSource
 public:
     /* Bytes of stack for the reader, more than 8,000 nested elements; but never more than half of what the
      * stack has. */
-    static constexpr std::intptr_t maximumStack = 4 * 1024 * 1024;
+    static constexpr std::intptr_t maximumStack = 4L * 1024 * 1024;
 
     /* Characters that all references to declared entities expand to. */
     static constexpr qint64 maximumExpansion = 50'000'000;
