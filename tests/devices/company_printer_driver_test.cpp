@@ -206,6 +206,38 @@ private Q_SLOTS:
         QCOMPARE(printed([](CompanyPrinterDriver &printer) { printer.openCashDrawer(); }), "\x1Bp0"_ba);
     }
 
+    // A pair of halves is one character even when two texts have one each; a half alone is none.
+    void halfACharacter()
+    {
+        const QString first(1, QChar(0xD83D));
+        const QString second(1, QChar(0xDE00));
+        QCOMPARE(printed([&](CompanyPrinterDriver &printer) {
+                     printer.print(0, first);
+                     printer.println(second);
+                     printer.println(first);
+                     printer.println(second);
+                 }),
+                 "\xF0\x9F\x98\x80\n\xEF\xBF\xBD\n\xEF\xBF\xBD\n"_ba);
+    }
+
+    // Around what is encoded at once, which is 512 characters, and with one that is not whole before it.
+    void textOfAnyLength_data()
+    {
+        QTest::addColumn<int>("length");
+        for (const int length : {511, 512, 513, 1024, 5000})
+            QTest::addRow("%d", length) << length;
+    }
+
+    void textOfAnyLength()
+    {
+        QFETCH(const int, length);
+        QCOMPARE(printed([&](CompanyPrinterDriver &printer) {
+                     printer.print(0, QString(1, QChar(0xD83D)));
+                     printer.print(0, QString(length, u'\u20AC'));
+                 }),
+                 "\xEF\xBF\xBD" + QByteArray("\xE2\x82\xAC").repeated(length));
+    }
+
     void allTextPassesThroughPrint()
     {
         class Listening : public CompanyPrinterDriver
