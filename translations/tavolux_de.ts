@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>MWST %</translation>
+        <translation>MWST. %</translation>
     </message>
     <message>
         <source>TAXABLE</source>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>% IVA</translation>
+        <translation>IVA (%)</translation>
     </message>
     <message>
         <source>TAXABLE</source>

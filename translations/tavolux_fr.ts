@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>TX TVA</translation>
+        <translation>TVA (%)</translation>
     </message>
     <message>
         <source>TAXABLE</source>

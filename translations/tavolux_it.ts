@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>ALIQ.</translation>
+        <translation>ALIQ. %</translation>
     </message>
     <message>
         <source>TAXABLE</source>
