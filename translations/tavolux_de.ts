@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Description</source>
-        <translation>Bezeichnung</translation>
+        <translation>Posten</translation>
     </message>
     <message>
         <source>Price</source>

@@ -5,7 +5,7 @@
     <name>QObject</name>
     <message>
         <source>Taxable</source>
-        <translation>Base imponible</translation>
+        <translation>Base imp.</translation>
     </message>
     <message>
         <source>TaxRate</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Description</source>
-        <translation>Descripción</translation>
+        <translation>Descr.</translation>
     </message>
     <message>
         <source>Price</source>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Description</source>
-        <translation>Désignation</translation>
+        <translation>Détail</translation>
     </message>
     <message>
         <source>Price</source>

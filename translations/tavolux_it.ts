@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Description</source>
-        <translation>Descrizione</translation>
+        <translation>Descr.</translation>
     </message>
     <message>
         <source>Price</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>    Amount not paid: </source>
-        <translation>    Corrispettivo non pagato: </translation>
+        <translation>    Non pagato: </translation>
     </message>
     <message>
         <source>deposit</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Amount not paid: </source>
-        <translation>Corrispettivo non pagato: </translation>
+        <translation>Non pagato: </translation>
     </message>
     <message>
         <source>Cash: </source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Serials</source>
-        <translation>Numeri progressivi</translation>
+        <translation>Progressivi</translation>
     </message>
     <message>
         <source>Date:</source>
