@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>BeginDate: </source>
-        <translation>Anfangsdatum: </translation>
+        <translation>Von: </translation>
     </message>
     <message>
         <source>EndDate: </source>
-        <translation>Enddatum: </translation>
+        <translation>Bis: </translation>
     </message>
     <message>
         <source>PREFISCAL SUMMARY</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>Bancomat: </source>
-        <translation>EC-Karte: </translation>
+        <translation>Girocard: </translation>
     </message>
     <message>
         <source>Other: </source>

@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Num</source>
-        <translation>Ud.</translation>
+        <translation>Cant.</translation>
     </message>
     <message>
         <source>Description</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>withdrawal</source>
-        <translation>retirada</translation>
+        <translation>reintegro</translation>
     </message>
     <message>
         <source>payment</source>

@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>RECEIPTS SUMMARY</source>
-        <translation>RIEPILOGO RICEVUTE</translation>
+        <translation>RIEPILOGO SCONTRINI</translation>
     </message>
     <message>
         <source>Amount not paid: </source>

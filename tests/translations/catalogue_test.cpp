@@ -80,6 +80,8 @@ private Q_SLOTS:
     void isFinished();
     void keepsBlanksAndColons_data() { eachLanguage(); }
     void keepsBlanksAndColons();
+    void hasOneTermForWhatIsNotPaid_data() { eachLanguage(); }
+    void hasOneTermForWhatIsNotPaid();
     void newLanguageStartsUntranslated();
 
 private:
@@ -156,6 +158,15 @@ void CatalogueTest::keepsBlanksAndColons()
             && translation.trimmed().endsWith(u':') == label.trimmed().endsWith(u':');
         QVERIFY2(kept, qPrintable(u"\"%1\" is translated as \"%2\""_s.arg(label, translation)));
     }
+}
+
+// On the receipt and in the report that sums it up.
+void CatalogueTest::hasOneTermForWhatIsNotPaid()
+{
+    QFETCH(const QString, language);
+    const QMap<QString, Entry> catalogue = entries(catalogueOf(language));
+    QCOMPARE("    "_L1 + catalogue[u"QObject::Amount not paid: "_s].translation,
+             catalogue[u"QObject::    Amount not paid: "_s].translation);
 }
 
 void CatalogueTest::newLanguageStartsUntranslated()
