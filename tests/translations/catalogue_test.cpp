@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QMap>
+#include <QStringEncoder>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -82,6 +83,8 @@ private Q_SLOTS:
     void keepsBlanksAndColons();
     void hasOneTermForWhatIsNotPaid_data() { eachLanguage(); }
     void hasOneTermForWhatIsNotPaid();
+    void isPrintableInItsCodePage_data() { eachLanguage(); }
+    void isPrintableInItsCodePage();
     void newLanguageStartsUntranslated();
 
 private:
@@ -116,7 +119,7 @@ void CatalogueTest::oneForEachLanguage()
     QStringList catalogues;
     for (const QString &language : translatedLanguages())
         catalogues << "tavolux_"_L1 + language + ".ts"_L1;
-    QVERIFY(catalogues.size() >= 4);
+    QVERIFY(catalogues.size() >= 7);
     QCOMPARE(QDir(sourceFolder + "/translations"_L1).entryList({u"*.ts"_s}, QDir::Files, QDir::Name),
              catalogues);
 }
@@ -167,6 +170,21 @@ void CatalogueTest::hasOneTermForWhatIsNotPaid()
     const QMap<QString, Entry> catalogue = entries(catalogueOf(language));
     QCOMPARE("    "_L1 + catalogue[u"QObject::Amount not paid: "_s].translation,
              catalogue[u"QObject::    Amount not paid: "_s].translation);
+}
+
+// Many printers have one byte for each character.
+void CatalogueTest::isPrintableInItsCodePage()
+{
+    QFETCH(const QString, language);
+    const QMap<QString, const char *> codePages = {{u"pl"_s, "CP852"}};
+    const QMap<QString, Entry> catalogue = entries(catalogueOf(language));
+    for (const Entry &entry : catalogue) {
+        QStringEncoder encode(codePages.value(language, "CP858"), QStringEncoder::Flag::Stateless);
+        QVERIFY(encode.isValid());
+        const QByteArray bytes = encode(entry.translation);
+        QVERIFY2(!encode.hasError(), qPrintable(entry.translation));
+        QCOMPARE(bytes.size(), entry.translation.size());
+    }
 }
 
 void CatalogueTest::newLanguageStartsUntranslated()

@@ -113,6 +113,7 @@ void TranslatedPrintoutsTest::followsLocale_data()
     QTest::newRow("LC_ALL of another country") << u"it_CH.UTF-8"_s << unset << "TOTALE"_ba;
     QTest::newRow("LC_ALL before LANG") << u"it_IT.UTF-8"_s << u"de_DE.UTF-8"_s << "TOTALE"_ba;
     QTest::newRow("LANG alone") << unset << u"de_DE.UTF-8"_s << "GESAMT"_ba;
+    QTest::newRow("a language beyond Latin-1") << u"pl_PL.UTF-8"_s << unset << "RAZEM"_ba;
     QTest::newRow("language without a catalogue") << u"fi_FI.UTF-8"_s << unset << "TOTAL"_ba;
     QTest::newRow("no language") << u"C"_s << unset << "TOTAL"_ba;
 }
