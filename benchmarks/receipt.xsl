@@ -28,36 +28,36 @@
   </xsl:template>
 
   <xsl:template match="orderinfo">
-    <xsl:value-of select="concat(' Date: ', @date, '&#10; Time: ', @time, '&#10; Table: ', @table, '&#10; Waiter: ', @waiter, '&#10;')"/>
+    <xsl:value-of select="concat(' Date: ', @date, '&#10; Table: ', @table, '&#10;')"/>
     <xsl:value-of select="$separator"/>
     <xsl:if test="../receipe">
-      <xsl:text>Num Description             Price   Amount&#10;</xsl:text>
+      <xsl:text>  Num Description            Price  Amount&#10;</xsl:text>
     </xsl:if>
   </xsl:template>
 
   <xsl:template match="receipe">
     <xsl:call-template name="right">
       <xsl:with-param name="text" select="@number"/>
-      <xsl:with-param name="width" select="3"/>
+      <xsl:with-param name="width" select="5"/>
     </xsl:call-template>
     <xsl:value-of select="concat(' x ', substring(concat(@name, $dots), 1, 19))"/>
     <xsl:call-template name="right">
       <xsl:with-param name="text" select="@price"/>
-      <xsl:with-param name="width" select="8"/>
+      <xsl:with-param name="width" select="7"/>
       <xsl:with-param name="fill" select="$dots"/>
     </xsl:call-template>
     <xsl:call-template name="right">
       <xsl:with-param name="text" select="@totalPrice"/>
-      <xsl:with-param name="width" select="9"/>
+      <xsl:with-param name="width" select="8"/>
     </xsl:call-template>
     <xsl:text>&#10;</xsl:text>
   </xsl:template>
 
   <xsl:template match="total">
-    <xsl:text>&#10;    TOTAL........................</xsl:text>
+    <xsl:text>&#10;      TOTAL.......................</xsl:text>
     <xsl:call-template name="right">
       <xsl:with-param name="text" select="@price"/>
-      <xsl:with-param name="width" select="9"/>
+      <xsl:with-param name="width" select="8"/>
     </xsl:call-template>
     <xsl:text>&#10;</xsl:text>
   </xsl:template>

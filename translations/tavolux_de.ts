@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Description</source>
-        <translation>Bezeichnung</translation>
+        <translation>Posten</translation>
     </message>
     <message>
         <source>Price</source>
@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>BeginDate: </source>
-        <translation>Anfangsdatum: </translation>
+        <translation>Von: </translation>
     </message>
     <message>
         <source>EndDate: </source>
-        <translation>Enddatum: </translation>
+        <translation>Bis: </translation>
     </message>
     <message>
         <source>PREFISCAL SUMMARY</source>
@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>Bancomat: </source>
-        <translation>EC-Karte: </translation>
+        <translation>Girocard: </translation>
     </message>
     <message>
         <source>Other: </source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>MWST %</translation>
+        <translation>MWST. %</translation>
     </message>
     <message>
         <source>TAXABLE</source>

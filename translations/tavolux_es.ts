@@ -5,7 +5,7 @@
     <name>QObject</name>
     <message>
         <source>Taxable</source>
-        <translation>Base imponible</translation>
+        <translation>Base imp.</translation>
     </message>
     <message>
         <source>TaxRate</source>
@@ -21,11 +21,11 @@
     </message>
     <message>
         <source>Num</source>
-        <translation>Ud.</translation>
+        <translation>Cant.</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation>Descripción</translation>
+        <translation>Descr.</translation>
     </message>
     <message>
         <source>Price</source>
@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>withdrawal</source>
-        <translation>retirada</translation>
+        <translation>reintegro</translation>
     </message>
     <message>
         <source>payment</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>% IVA</translation>
+        <translation>IVA (%)</translation>
     </message>
     <message>
         <source>TAXABLE</source>

@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Description</source>
-        <translation>Désignation</translation>
+        <translation>Détail</translation>
     </message>
     <message>
         <source>Price</source>
@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>BeginDate: </source>
-        <translation>Date de début : </translation>
+        <translation>Du : </translation>
     </message>
     <message>
         <source>EndDate: </source>
-        <translation>Date de fin : </translation>
+        <translation>Au : </translation>
     </message>
     <message>
         <source>PREFISCAL SUMMARY</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Amount not paid: </source>
-        <translation>Montant impayé : </translation>
+        <translation>Reste à payer : </translation>
     </message>
     <message>
         <source>Cash: </source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>TX TVA</translation>
+        <translation>TVA (%)</translation>
     </message>
     <message>
         <source>TAXABLE</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Fiscal Code:</source>
-        <translation>N° fiscal :</translation>
+        <translation>SIRET :</translation>
     </message>
     <message>
         <source>Serial Number: </source>

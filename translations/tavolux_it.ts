@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Description</source>
-        <translation>Descrizione</translation>
+        <translation>Descr.</translation>
     </message>
     <message>
         <source>Price</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>    Amount not paid: </source>
-        <translation>    Corrispettivo non pagato: </translation>
+        <translation>    Non pagato: </translation>
     </message>
     <message>
         <source>deposit</source>
@@ -89,11 +89,11 @@
     </message>
     <message>
         <source>RECEIPTS SUMMARY</source>
-        <translation>RIEPILOGO RICEVUTE</translation>
+        <translation>RIEPILOGO SCONTRINI</translation>
     </message>
     <message>
         <source>Amount not paid: </source>
-        <translation>Corrispettivo non pagato: </translation>
+        <translation>Non pagato: </translation>
     </message>
     <message>
         <source>Cash: </source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>TAXRATE</source>
-        <translation>ALIQ.</translation>
+        <translation>ALIQ. %</translation>
     </message>
     <message>
         <source>TAXABLE</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Serials</source>
-        <translation>Numeri progressivi</translation>
+        <translation>Progressivi</translation>
     </message>
     <message>
         <source>Date:</source>

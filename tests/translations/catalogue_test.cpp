@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QMap>
+#include <QStringEncoder>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -80,6 +81,10 @@ private Q_SLOTS:
     void isFinished();
     void keepsBlanksAndColons_data() { eachLanguage(); }
     void keepsBlanksAndColons();
+    void hasOneTermForWhatIsNotPaid_data() { eachLanguage(); }
+    void hasOneTermForWhatIsNotPaid();
+    void isPrintableInItsCodePage_data() { eachLanguage(); }
+    void isPrintableInItsCodePage();
     void newLanguageStartsUntranslated();
 
 private:
@@ -114,7 +119,7 @@ void CatalogueTest::oneForEachLanguage()
     QStringList catalogues;
     for (const QString &language : translatedLanguages())
         catalogues << "tavolux_"_L1 + language + ".ts"_L1;
-    QVERIFY(catalogues.size() >= 4);
+    QVERIFY(catalogues.size() >= 7);
     QCOMPARE(QDir(sourceFolder + "/translations"_L1).entryList({u"*.ts"_s}, QDir::Files, QDir::Name),
              catalogues);
 }
@@ -155,6 +160,30 @@ void CatalogueTest::keepsBlanksAndColons()
             && trailingBlanks(translation) == trailingBlanks(label)
             && translation.trimmed().endsWith(u':') == label.trimmed().endsWith(u':');
         QVERIFY2(kept, qPrintable(u"\"%1\" is translated as \"%2\""_s.arg(label, translation)));
+    }
+}
+
+// On the receipt and in the report that sums it up.
+void CatalogueTest::hasOneTermForWhatIsNotPaid()
+{
+    QFETCH(const QString, language);
+    const QMap<QString, Entry> catalogue = entries(catalogueOf(language));
+    QCOMPARE("    "_L1 + catalogue[u"QObject::Amount not paid: "_s].translation,
+             catalogue[u"QObject::    Amount not paid: "_s].translation);
+}
+
+// Many printers have one byte for each character.
+void CatalogueTest::isPrintableInItsCodePage()
+{
+    QFETCH(const QString, language);
+    const QMap<QString, const char *> codePages = {{u"pl"_s, "CP852"}};
+    const QMap<QString, Entry> catalogue = entries(catalogueOf(language));
+    for (const Entry &entry : catalogue) {
+        QStringEncoder encode(codePages.value(language, "CP858"), QStringEncoder::Flag::Stateless);
+        QVERIFY(encode.isValid());
+        const QByteArray bytes = encode(entry.translation);
+        QVERIFY2(!encode.hasError(), qPrintable(entry.translation));
+        QCOMPARE(bytes.size(), entry.translation.size());
     }
 }
 

@@ -9,16 +9,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/* The widths that go with a paper, in characters. */
 struct Columns
 {
     int paper;
-    int quantity;
+    int belowHeaders; // what a separator may have that stands centred below header lines
     int price;
     int total;
+    int movement; // the amount in a statement of account
 };
 
-// Two blanks before the amounts of a small bill, and room for a description in every kind of row.
-constexpr Columns columnsByPaper[] = {{32, 3, 7, 7}, {40, 3, 8, 8}, {42, 3, 8, 9}, {48, 3, 9, 10}};
+// A line is centred for 34 characters, which moves one of 32 out of the paper. Price and total take the
+// longest titles, "Prezzo" and "Importo" with a blank before it, and the amounts of a small restaurant.
+constexpr Columns columnsByPaper[] = {
+    {32, 31, 6, 8, 7}, {40, 40, 7, 8, 9}, {42, 42, 7, 8, 9}, {48, 48, 8, 9, 10}};
 
 DocumentProfile starterProfile(QLatin1StringView documentType, const Columns &columns)
 {
@@ -27,20 +31,25 @@ DocumentProfile starterProfile(QLatin1StringView documentType, const Columns &co
     };
 
     DocumentProfile profile;
-    profile.quantityFieldWidth = columns.quantity;
+    profile.printHeader = isOneOf({"order"_L1, "receipt"_L1, "delivery"_L1});
+    profile.paperWidth = profile.printHeader ? columns.belowHeaders : columns.paper;
+    // Five characters take the longest titles of this column, such as "Cant.", and what is sold in a month.
+    profile.quantityFieldWidth = isOneOf({"order"_L1, "delivery"_L1}) ? 3 : 5;
     profile.priceFieldWidth = columns.price;
+    if (documentType == "report"_L1)
+        profile.priceFieldWidth = columns.movement;
+    else if (documentType == "sold"_L1)
+        profile.priceFieldWidth = 0; // no row has a price
     profile.totalPriceFieldWidth = columns.total;
-    profile.paperWidth = columns.paper;
 
-    profile.printGeometry = true; // as many lines as topMargin says
-    profile.printHeader = true;
-    profile.printCompany = isOneOf({"prefiscal"_L1, "receipt"_L1, "invoice"_L1, "report"_L1});
-    profile.printDate = true;
-    profile.printTime = true;
-    profile.printTable = profile.printWaiter = isOneOf({"order"_L1, "prefiscal"_L1, "receipt"_L1});
+    profile.printCompany = isOneOf({"prefiscal"_L1, "receipt"_L1, "invoice"_L1, "report"_L1, "sold"_L1});
+    profile.printGeometry = profile.printDate = documentType != "fiscal"_L1;
+    profile.printTime = isOneOf({"order"_L1, "prefiscal"_L1, "delivery"_L1, "report"_L1, "sold"_L1});
+    profile.printTable = isOneOf({"order"_L1, "prefiscal"_L1, "receipt"_L1});
+    profile.printWaiter = isOneOf({"order"_L1, "prefiscal"_L1, "report"_L1});
     profile.printNote = isOneOf({"order"_L1, "delivery"_L1});
-    profile.printCustomer = profile.printTelephone = isOneOf({"invoice"_L1, "delivery"_L1});
-    profile.printDeliveryAddress = documentType == "delivery"_L1;
+    profile.printCustomer = isOneOf({"invoice"_L1, "delivery"_L1});
+    profile.printDeliveryAddress = profile.printTelephone = documentType == "delivery"_L1;
     profile.printBillingAddress = documentType == "invoice"_L1;
     profile.printLicenseNumber = profile.printFiscalCode = documentType == "invoice"_L1;
     profile.openCashDrawer = isOneOf({"fiscal"_L1, "receipt"_L1, "invoice"_L1});
