@@ -104,6 +104,7 @@ PortResult PrinterPort::confirm(const std::function<bool(const PrinterStatus &)>
     if (const PortResult result = send(inSequenceQuery); result != PortResult::Done)
         return result;
 
+    const Clock::duration confirmation = m_limits.confirmation + m_limits.perByte * m_sent;
     Clock::time_point readySince = Clock::now();
     m_lastHeard = readySince;
     for (;;) {
@@ -123,7 +124,7 @@ PortResult PrinterPort::confirm(const std::function<bool(const PrinterStatus &)>
             if (!status.ready())
                 readySince = now;
         }
-        if (now - readySince > m_limits.confirmation || now - m_lastHeard > m_limits.silence)
+        if (now - readySince > confirmation || now - m_lastHeard > m_limits.silence)
             return PortResult::Silent;
     }
 }
@@ -132,12 +133,12 @@ void PrinterPort::restore(std::size_t unsent)
 {
     const Clock::time_point until = Clock::now() + m_limits.restoring;
     const std::string bytes = std::string(unsent, '\0').append(initialise);
-    std::string_view rest = bytes;
-    while (!rest.empty() && wait(POLLOUT, until, -1) == PortResult::Done) {
+    std::size_t done = 0;
+    while (done < bytes.size() && wait(POLLOUT, until, -1) == PortResult::Done) {
         std::size_t written = 0;
-        if (write(rest, written) != PortResult::Done)
+        if (write(std::string_view(bytes).substr(done), written) != PortResult::Done)
             return;
-        rest.remove_prefix(written);
+        done += written;
     }
     // Closing a connection with something unread would throw away what is on its way.
     receive();

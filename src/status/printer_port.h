@@ -20,7 +20,10 @@ struct PortLimits
     std::chrono::milliseconds answer{3'000}; // to answer a real-time query
     std::chrono::milliseconds pause{1'000}; // between two rounds of queries
     std::chrono::milliseconds silence{30'000}; // without any byte, once a job is sent
-    std::chrono::milliseconds confirmation{60'000}; // to confirm a job, all the while saying that it is ready
+    std::chrono::milliseconds confirmation{
+        60'000}; // to confirm a job, all the while saying that it is ready;
+    std::chrono::milliseconds perByte{
+        5}; // and so much more for each byte: impact printers print 200 in a second
     std::chrono::milliseconds restoring{500}; // to take what ends a job that was cut short
 };
 

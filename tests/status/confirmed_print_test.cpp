@@ -18,8 +18,8 @@ using namespace std::chrono_literals;
 namespace {
 
 // For what ends when a limit is reached, and for what must end without one.
-constexpr PortLimits shortLimits = {300ms, 5ms, 300ms, 300ms, 300ms};
-constexpr PortLimits patientLimits = {30s, 5ms, 600s, 600s, 30s};
+constexpr PortLimits shortLimits = {300ms, 5ms, 300ms, 300ms, 0ms, 300ms};
+constexpr PortLimits patientLimits = {30s, 5ms, 600s, 600s, 0ms, 30s};
 
 /* The program's end of a connection, closed with the object. */
 class Descriptor
@@ -250,6 +250,25 @@ private Q_SLOTS:
             return true;
         };
         QTEST(printConfirmed(port, job, AnswersStatus::Unknown, events), "outcome");
+    }
+
+    // The more there is to print the longer it may take.
+    void slowPrinterHasTimeForEachByte()
+    {
+        SimulatedPrinter printer;
+        printer.set([](SimulatedPrinter::Condition &is) { is.busy = true; });
+        const Descriptor connection(connectionTo(printer));
+        PortLimits limits = patientLimits;
+        limits.confirmation = 0ms;
+        limits.perByte = 60s;
+        PrinterPort port(connection, -1, limits);
+        PrintEvents events;
+        events.status = [&, told = 0](const PrinterStatus &) mutable {
+            if (++told == 5)
+                printer.set([](SimulatedPrinter::Condition &is) { is.busy = false; });
+            return true;
+        };
+        QCOMPARE(printConfirmed(port, job, AnswersStatus::Unknown, events), Outcome::Printed);
     }
 
     // An old answer is taken for none of this job.

@@ -222,7 +222,7 @@ void SimulatedPrinter::printBuffer()
 {
     Condition &is = m_condition;
     qsizetype at = 0;
-    while (at < m_buffer.size() && is.paper && !is.coverOpen && !is.cutterError) {
+    while (at < m_buffer.size() && is.paper && !is.coverOpen && !is.cutterError && !is.busy) {
         const QByteArrayView rest = QByteArrayView(m_buffer).sliced(at);
         if (inSequenceQuery.size() > rest.size() && QByteArrayView(inSequenceQuery.data()).startsWith(rest))
             break; // the rest of the query may follow

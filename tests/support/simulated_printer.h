@@ -37,6 +37,7 @@ public:
         bool coverOpen = false;
         bool cutterError = false;
 
+        bool busy = false; // ready, and printing something else
         bool answersStatus = true;
         bool confirms = true;
         bool reads = true;

@@ -87,7 +87,7 @@ public:
 
 private:
     bool readJob();
-    BackendStatus printOn(Device &device);
+    BackendStatus printOn(const Device &device);
     bool noteStatus(const PrinterStatus &status);
     BackendStatus hold(const std::string &reason);
 
@@ -147,7 +147,7 @@ BackendStatus Run::print()
         return BackendStatus::Ok;
 
     for (;;) {
-        Device device(m_uri, m_cancellation);
+        const Device device(m_uri, m_cancellation);
         if (device.isOpen()) {
             const BackendStatus status = printOn(device);
             if (status != BackendStatus::Failed)
@@ -168,7 +168,7 @@ BackendStatus Run::print()
 }
 
 /* Failed when nothing was sent. */
-BackendStatus Run::printOn(Device &device)
+BackendStatus Run::printOn(const Device &device)
 {
     const AnswersStatus habit = !m_uri.asksStatus ? AnswersStatus::Never
         : m_record.hasAnswered(m_uriText)         ? AnswersStatus::Known

@@ -11,10 +11,10 @@ namespace {
 
 sigset_t signalToWaitFor()
 {
-    sigset_t signals;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGTERM);
-    return signals;
+    sigset_t set;
+    sigemptyset(&set);
+    sigaddset(&set, SIGTERM);
+    return set;
 }
 
 const sigset_t signals = signalToWaitFor();
