@@ -1,0 +1,31 @@
+#pragma once
+
+#include "printer_status.h"
+
+#include <set>
+#include <string>
+
+/* Writes one line of its kind, such as "ERROR", to standard error, where the print system reads it. */
+void report(const std::string &kind, const std::string &text);
+
+/* Keeps the printer's state reasons and message in the print system as the printer tells. Says only what
+ * changes: the print system may write each change to disk. */
+class StateReport
+{
+public:
+    /* Begins with the reasons that an earlier run has left, separated by commas. */
+    explicit StateReport(const std::string &reasons);
+
+    void show(const PrinterStatus &status);
+    /* The printer cannot be asked, or takes nothing. */
+    void showOffLine(const std::string &message);
+    /* Nothing hinders printing. What is known of the paper near its end stays. */
+    void clear();
+
+private:
+    void setReasons(const std::set<std::string> &reasons);
+    void setMessage(const std::string &kind, const std::string &message);
+
+    std::set<std::string> m_reasons;
+    std::string m_message;
+};

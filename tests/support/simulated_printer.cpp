@@ -1,0 +1,259 @@
+#include "simulated_printer.h"
+
+#include <array>
+#include <chrono>
+#include <cstdlib>
+
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <termios.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto realTimeQuery = "\x10\x04"_L1;
+constexpr auto inSequenceQuery = "\x1D\x72\x01"_L1;
+
+void require(bool done, const char *what)
+{
+    if (!done)
+        qFatal("the simulated printer cannot %s", what);
+}
+
+/* Listens on the port of the loopback interface, or on a free one. */
+int listenOn(int &port)
+{
+    const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    require(listener >= 0, "make a socket");
+    const int on = 1;
+    setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    // As little as a printer takes before it prints.
+    const int bytes = 4096;
+    setsockopt(listener, SOL_SOCKET, SO_RCVBUF, &bytes, sizeof bytes);
+
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<in_port_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    auto *generic = reinterpret_cast<sockaddr *>(&address);
+    socklen_t size = sizeof address;
+    require(bind(listener, generic, size) == 0 && listen(listener, 16) == 0
+                && getsockname(listener, generic, &size) == 0,
+            "listen");
+    port = ntohs(address.sin_port);
+    return listener;
+}
+
+} // namespace
+
+SimulatedPrinter::SimulatedPrinter(Connection connection)
+    : m_connection(connection)
+{
+    std::array<int, 2> wake = {};
+    require(pipe2(wake.data(), O_CLOEXEC) == 0, "make a pipe");
+    m_wakeReader = wake[0];
+    m_wakeWriter = wake[1];
+
+    if (connection == Connection::Network) {
+        m_listener = listenOn(m_port);
+    } else {
+        m_line = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK);
+        std::array<char, 64> path = {};
+        require(m_line >= 0 && grantpt(m_line) == 0 && unlockpt(m_line) == 0
+                    && ptsname_r(m_line, path.data(), path.size()) == 0,
+                "make a terminal");
+        m_devicePath = QString::fromLocal8Bit(path.data());
+        // Else the line would hang up whenever nobody prints.
+        m_deviceKeptOpen = open(path.data(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        require(m_deviceKeptOpen >= 0, "open its terminal");
+    }
+    m_thread = std::thread([this] { run(); });
+}
+
+SimulatedPrinter::~SimulatedPrinter()
+{
+    set([this](Condition &) { m_ending = true; });
+    m_thread.join();
+    for (const int descriptor : {m_wakeReader, m_wakeWriter, m_listener, m_line, m_deviceKeptOpen})
+        if (descriptor >= 0)
+            close(descriptor);
+}
+
+QString SimulatedPrinter::uri() const
+{
+    return m_connection == Connection::Network ? u"tavolux://127.0.0.1:%1"_s.arg(m_port)
+                                               : "tavolux:"_L1 + m_devicePath;
+}
+
+void SimulatedPrinter::set(const std::function<void(Condition &)> &change)
+{
+    const std::lock_guard lock(m_mutex);
+    change(m_condition);
+    require(write(m_wakeWriter, "", 1) == 1, "wake up");
+}
+
+PrinterLog SimulatedPrinter::log() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_log;
+}
+
+bool SimulatedPrinter::waitUntil(const std::function<bool(const PrinterLog &)> &reached) const
+{
+    std::unique_lock lock(m_mutex);
+    return m_changed.wait_for(lock, std::chrono::seconds(30), [&] { return reached(m_log); });
+}
+
+void SimulatedPrinter::run()
+{
+    std::unique_lock lock(m_mutex);
+    while (!m_ending) {
+        updateConnection();
+        printBuffer();
+        m_log.connected = m_line >= 0;
+        m_changed.notify_all();
+
+        const short reading = m_condition.reads ? POLLIN : 0;
+        const int listener = m_line < 0 ? m_listener : -1;
+        std::array<pollfd, 3> polled = {
+            {{m_wakeReader, POLLIN, 0}, {listener, POLLIN, 0}, {m_line, reading, 0}}};
+        lock.unlock();
+        poll(polled.data(), polled.size(), -1);
+        lock.lock();
+
+        if (polled[0].revents != 0) {
+            char byte = 0;
+            require(read(m_wakeReader, &byte, 1) == 1, "be woken up");
+        }
+        if (polled[1].revents != 0)
+            acceptConnection();
+        if (polled[2].revents != 0)
+            readConnection();
+    }
+}
+
+/* Goes away and comes back as the condition says. */
+void SimulatedPrinter::updateConnection()
+{
+    if (m_connection == Connection::Device)
+        return;
+    if (!m_condition.connected && m_listener >= 0) {
+        close(m_listener);
+        m_listener = -1;
+        endConnection(true);
+    } else if (m_condition.connected && m_listener < 0) {
+        m_listener = listenOn(m_port);
+    }
+}
+
+void SimulatedPrinter::acceptConnection()
+{
+    m_line = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+    if (m_line >= 0)
+        ++m_log.connections;
+}
+
+void SimulatedPrinter::endConnection(bool reset)
+{
+    if (m_line < 0)
+        return;
+    if (reset) {
+        const linger atOnce = {1, 0};
+        setsockopt(m_line, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+    }
+    close(m_line);
+    m_line = -1;
+    m_arrived.clear();
+}
+
+void SimulatedPrinter::readConnection()
+{
+    std::array<char, 4096> bytes = {};
+    const ssize_t count = read(m_line, bytes.data(), bytes.size());
+    if (count > 0) {
+        m_arrived.append(bytes.data(), count);
+        takeBytes();
+    } else if (count == 0 || errno != EAGAIN) {
+        endConnection(false);
+    }
+}
+
+/* Answers queries in real time, and puts everything else into the buffer. */
+void SimulatedPrinter::takeBytes()
+{
+    while (!m_arrived.isEmpty()) {
+        if (m_arrived.startsWith('\x10') && m_arrived.size() < 3)
+            return; // the rest of a query may follow
+        if (m_arrived.startsWith(realTimeQuery.data())) {
+            const Condition &is = m_condition;
+            int answered = 0x12;
+            switch (m_arrived[2]) {
+            case 1:
+                answered |= is.paper && !is.coverOpen && !is.cutterError ? 0 : 0x08;
+                break;
+            case 2:
+                answered |= (is.coverOpen ? 0x04 : 0) | (is.paper ? 0 : 0x20) | (is.cutterError ? 0x40 : 0);
+                break;
+            case 3:
+                answered |= is.cutterError ? 0x08 : 0;
+                break;
+            default:
+                answered |= (is.paperNearEnd ? 0x0C : 0) | (is.paper ? 0 : 0x60);
+            }
+            m_arrived.remove(0, 3);
+            if (is.answersStatus) {
+                answer(static_cast<char>(answered));
+                ++m_log.statusQueries;
+            }
+            continue;
+        }
+        m_buffer += m_arrived[0];
+        m_arrived.remove(0, 1);
+    }
+}
+
+/* Prints as far as paper and cover allow. */
+void SimulatedPrinter::printBuffer()
+{
+    Condition &is = m_condition;
+    qsizetype at = 0;
+    while (at < m_buffer.size() && is.paper && !is.coverOpen && !is.cutterError && !is.busy) {
+        const QByteArrayView rest = QByteArrayView(m_buffer).sliced(at);
+        if (inSequenceQuery.size() > rest.size() && QByteArrayView(inSequenceQuery.data()).startsWith(rest))
+            break; // the rest of the query may follow
+        if (rest.startsWith(inSequenceQuery.data())) {
+            at += inSequenceQuery.size();
+            if (is.answersStatus && is.confirms) {
+                m_log.jobs.append(std::exchange(m_job, {}));
+                answer(is.paperNearEnd ? 0x03 : 0x00);
+            }
+            continue;
+        }
+        m_job += m_buffer[at];
+        m_log.paper += m_buffer[at];
+        ++at;
+        if (is.paperLeft > 0 && --is.paperLeft == 0)
+            is.paper = false;
+        if (is.resetAt >= 0 && m_log.paper.size() == is.resetAt) {
+            endConnection(true);
+            m_buffer.clear();
+            m_job.clear();
+            return;
+        }
+    }
+    m_buffer.remove(0, at);
+}
+
+void SimulatedPrinter::answer(char byte)
+{
+    // Whoever asked may have gone.
+    if (m_connection == Connection::Network)
+        send(m_line, &byte, 1, MSG_NOSIGNAL);
+    else
+        require(write(m_line, &byte, 1) == 1, "answer");
+}
