@@ -55,9 +55,9 @@ void Config::readFile(const QString &file, const QString &type)
 
 void Config::constructor(const QString &file, const QString &type)
 {
-    fileName = file;
-    fileType = type;
-    document = std::make_unique<QDomDocument>();
+    m_fileName = file;
+    m_fileType = type;
+    m_document = std::make_unique<QDomDocument>();
     if (type == "cfg"_L1)
         loadFile();
     else if (type == "xml"_L1)
@@ -68,7 +68,7 @@ void Config::constructor(const QString &file, const QString &type)
 // or a comment the file's own root element is left standing before it, and must not answer in its place.
 QDomElement Config::rootElement() const
 {
-    return document ? document->lastChildElement() : QDomElement();
+    return m_document ? m_document->lastChildElement() : QDomElement();
 }
 
 // The tree keeps attributes in a hash whose order differs from run to run; what is shown or written comes in

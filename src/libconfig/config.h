@@ -1,5 +1,8 @@
 #pragma once
 
+#include "write_file.h"
+
+#include <QByteArray>
 #include <QDomDocument>
 #include <QList>
 #include <QString>
@@ -54,10 +57,14 @@ public:
 
     /* Writes the root's settings and the first top-level section to the named file, or over the file that was
      * read when the name is empty, as "cfg" text (in Latin-1, as it is read) or as XML (in UTF-8). Values are
-     * written as they are, settings in the order of their names. True when the file was written whole;
-     * otherwise nothing is reported, and a regular file keeps what it held. */
-    bool buildConfigFile(const QString &name) const;
-    bool buildConfigXmlFile(const QString &name) const;
+     * written as they are, settings in the order of their names. A regular file is replaced whole or keeps
+     * what it held; a named device or FIFO is written as it stands. Nothing is printed. */
+    WriteResult buildConfigFile(const QString &name) const;
+    WriteResult buildConfigXmlFile(const QString &name) const;
+
+    /* What they write. */
+    QByteArray cfgText() const;
+    QByteArray xmlText() const;
 
     /* Writes one section with all below it, each line behind the indentation. */
     void buildConfigFile(const QDomNode &node, QTextStream &stream, const QString &indentation = {}) const;
@@ -77,10 +84,11 @@ public:
     void buildConfigListView(const QDomNode &node, QTreeWidgetItem *parent) const;
 
     /* Takes an edited view back as the new tree and writes it over the file that was read, in the kind it was
-     * read as. True when that was written whole; does nothing without a view. */
-    bool loadListView(const QTreeWidget *view);
+     * read as. Does nothing without a view. */
+    WriteResult loadListView(const QTreeWidget *view);
 
-    /* Rebuilds one item, with all below it, as a new last child of the parent. */
+    /* Rebuilds one item, with all below it, as a new last child of the parent: a document or a node of one.
+     */
     void loadListView(const QTreeWidgetItem *item, QDomNode parent);
 
 protected:
@@ -107,17 +115,18 @@ private:
 
     QDomElement rootElement() const;
     static QList<QDomAttr> settings(const QDomNode &node);
-    bool writeFile(const QString &name, QStringConverter::Encoding encoding, NodeWriter writeNode) const;
+    QByteArray written(QStringConverter::Encoding encoding, NodeWriter writeNode) const;
+    WriteResult save(const QString &name, const QByteArray &bytes) const;
 
     bool readStatements(QDomElement section, QDomNode parent);
     QString readValue();
     int nextByte();
 
-    QString fileName;
-    QString fileType;
-    std::ifstream inputStream;
-    std::unique_ptr<QDomDocument> document;
-    int nesting = 0;
+    QString m_fileName;
+    QString m_fileType;
+    std::ifstream m_inputStream;
+    std::unique_ptr<QDomDocument> m_document;
+    int m_nesting = 0;
 };
 
 } // namespace libconfig

@@ -1,7 +1,6 @@
 #include "config.h"
+#include "read_file.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QXmlStreamReader>
 
 namespace libconfig {
@@ -29,20 +28,17 @@ bool nestsDeeperThan(int limit, const QByteArray &text)
 // shape as the "cfg" kind. When that node is a declaration or a comment, no lookup finds anything.
 void Config::loadXmlFile()
 {
-    QFile file(fileName);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
-        return;
-    const QByteArray text = file.readAll();
+    const QByteArray text = readRegularFile(m_fileName).bytes;
     if (nestsDeeperThan(maximumNesting, text))
         return;
-    if (!document->setContent(text)) {
-        document->clear();
+    if (!m_document->setContent(text)) {
+        m_document->clear();
         return;
     }
 
-    QDomElement root = document->createElement(fileName);
-    root.appendChild(document->firstChild());
-    document->appendChild(root);
+    QDomElement root = m_document->createElement(m_fileName);
+    root.appendChild(m_document->firstChild());
+    m_document->appendChild(root);
 }
 
 } // namespace libconfig

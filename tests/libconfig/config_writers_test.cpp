@@ -55,7 +55,7 @@ const QByteArray exampleAsXml = "\n"
                                 "    </doc>\n"
                                 "</tavolux>\n";
 
-using Writer = bool (libconfig::Config::*)(const QString &) const;
+using Writer = WriteResult (libconfig::Config::*)(const QString &) const;
 
 struct WrittenFile
 {
