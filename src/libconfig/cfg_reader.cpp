@@ -34,8 +34,9 @@ bool Config::openFile(const QString &name)
     closeFile();
     // A directory opens as a stream that never ends, and a FIFO waits for a writer.
     if (isRegularFile(name))
-        m_inputStream.open(fileNameBytes(name).constData(), std::ios::in | std::ios::binary);
-    if (m_inputStream.is_open())
+        m_file.open(fileNameBytes(name).constData(), std::ios::in | std::ios::binary);
+    m_inputStream.rdbuf(&m_file);
+    if (m_file.is_open())
         return true;
     printDiagnostic("Error in the method FileReader::open( " + shownFileName(name) + " ): File Not Found");
     return false;
@@ -48,7 +49,8 @@ bool Config::openFile()
 
 void Config::closeFile()
 {
-    m_inputStream.close();
+    m_file.close();
+    m_text.str({});
 }
 
 // Straight from the buffer: a formatted stream's checks for every byte would be half the time of loading.
@@ -71,8 +73,12 @@ void Config::loadFile()
 {
     // Without a file the stream is at its end from the start, and the store stays empty.
     openFile();
-    // Comes first: a document in which nothing was created is a null node, which takes no children.
-    const QDomElement root = m_document->createElement(m_fileName);
+    loadStatements();
+}
+
+void Config::loadStatements()
+{
+    const QDomElement root = newRootElement();
     const bool endedByBrace = readStatements(root, *m_document);
     if (!endedByBrace) // Deliberate: behind a brace that closes no section the stream stays open.
         closeFile();

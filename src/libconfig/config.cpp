@@ -55,13 +55,36 @@ void Config::readFile(const QString &file, const QString &type)
 
 void Config::constructor(const QString &file, const QString &type)
 {
-    m_fileName = file;
-    m_fileType = type;
-    m_document = std::make_unique<QDomDocument>();
+    begin(file, type);
     if (type == "cfg"_L1)
         loadFile();
     else if (type == "xml"_L1)
         loadXmlFile();
+}
+
+void Config::readText(const QByteArray &text, const QString &type)
+{
+    begin({}, type);
+    if (type == "cfg"_L1) {
+        m_text.str(text.toStdString());
+        m_inputStream.rdbuf(&m_text);
+        loadStatements();
+    } else if (type == "xml"_L1) {
+        loadXmlText(text);
+    }
+}
+
+void Config::begin(const QString &file, const QString &type)
+{
+    m_fileName = file;
+    m_fileType = type;
+    // Named, though without a name: a document made otherwise is a null node, which takes no children.
+    m_document = std::make_unique<QDomDocument>(QString());
+}
+
+QDomElement Config::newRootElement() const
+{
+    return m_document->createElement(m_fileName.isEmpty() ? u"-"_s : m_fileName); // none has an empty name
 }
 
 // The readers append the element named after the file last. In an "xml" file that begins with a declaration
@@ -82,6 +105,21 @@ QList<QDomAttr> Config::settings(const QDomNode &node)
         sorted.append(attributes.item(i).toAttr());
     std::ranges::sort(sorted, {}, &QDomAttr::name);
     return sorted;
+}
+
+Section Config::content() const
+{
+    return contentOf(rootElement());
+}
+
+Section Config::contentOf(const QDomElement &element)
+{
+    Section section{element.tagName(), {}, {}};
+    for (const QDomAttr &setting : settings(element))
+        section.settings.insert(setting.name(), setting.value());
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        section.sections.push_back(contentOf(child));
+    return section;
 }
 
 QString Config::lookup(const QString &key) const

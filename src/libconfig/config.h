@@ -1,5 +1,6 @@
 #pragma once
 
+#include "section.h"
 #include "write_file.h"
 
 #include <QByteArray>
@@ -9,7 +10,9 @@
 #include <QStringConverter>
 
 #include <fstream>
+#include <istream>
 #include <memory>
+#include <sstream>
 
 class QTextStream;
 class QTreeWidget;
@@ -46,6 +49,13 @@ public:
      * store; an "xml" file that cannot be read or parsed gives an empty store in silence.
      */
     void readFile(const QString &file, const QString &type);
+
+    /* The same for the text of a file without a name. */
+    void readText(const QByteArray &text, const QString &type);
+
+    /* The whole tree as plain values: the root, which has the file's name, with all below it. An empty store
+     * gives a section without a name. */
+    Section content() const;
 
     /* The value of a dotted key such as "tavolux.language.file"; empty when there is none. The key's first
      * component names the first top-level section: no other is ever searched. */
@@ -113,7 +123,13 @@ protected:
 private:
     using NodeWriter = void (Config::*)(const QDomNode &, QTextStream &, const QString &) const;
 
+    void begin(const QString &file, const QString &type);
+    void loadStatements();
+    void loadXmlText(const QByteArray &text);
+
+    QDomElement newRootElement() const;
     QDomElement rootElement() const;
+    static Section contentOf(const QDomElement &element);
     static QList<QDomAttr> settings(const QDomNode &node);
     QByteArray written(QStringConverter::Encoding encoding, NodeWriter writeNode) const;
     WriteResult save(const QString &name, const QByteArray &bytes) const;
@@ -124,7 +140,9 @@ private:
 
     QString m_fileName;
     QString m_fileType;
-    std::ifstream m_inputStream;
+    std::filebuf m_file;
+    std::stringbuf m_text;
+    std::istream m_inputStream{&m_file}; // on either of them
     std::unique_ptr<QDomDocument> m_document;
     int m_nesting = 0;
 };

@@ -76,8 +76,7 @@ WriteResult Config::loadListView(const QTreeWidget *view)
 {
     if (!view)
         return {u"There is nothing to write"_s};
-    // Named, though without a name: a document made otherwise is a null node, which takes no children.
-    m_document = std::make_unique<QDomDocument>(QString());
+    begin(m_fileName, m_fileType);
     for (int i = 0; i < view->topLevelItemCount(); ++i)
         loadListView(view->topLevelItem(i), *m_document);
     if (m_fileType == "cfg"_L1)

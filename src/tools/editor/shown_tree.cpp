@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTreeWidget>
 
+using libconfig::Section;
+
 namespace {
 
 // What can be edited is a value, and nothing else is: a section whose first section is empty has the same

@@ -1,25 +1,12 @@
 #pragma once
 
-#include <QMap>
-#include <QString>
-
-#include <vector>
+#include "section.h"
 
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/* A section as a tree view shows it: what two configurations are compared by. */
-struct Section
-{
-    QString name;
-    QMap<QString, QString> settings;
-    std::vector<Section> sections;
-
-    bool operator==(const Section &other) const = default;
-};
-
 /* Everything that the view shows: a section without a name, with the items at the top as its sections. */
-Section shownSections(const QTreeWidget &view);
+libconfig::Section shownSections(const QTreeWidget &view);
 
 /* The item that holds the value of a setting, given as its name's or its value's item; null for a section. */
 QTreeWidgetItem *valueItem(QTreeWidgetItem *item);
