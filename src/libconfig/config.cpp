@@ -1,5 +1,7 @@
 #include "config.h"
 
+#include <QTextStream>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +37,34 @@ QString valueBelow(const QDomNode &node, QStringView key)
         if (QString value = valueBelow(child, rest); !value.isEmpty())
             return value;
     return {};
+}
+
+// Some of an element's attributes, mostly all. To ask the tree for each by its number takes quadratic time,
+// and saving them does not, so their names are taken from a saved copy: <tag name="value" name="value"/>,
+// where no value holds a quote. A name that holds "=" is not found in it.
+QList<QDomAttr> savedAttributes(QDomElement element)
+{
+    QString text;
+    QTextStream stream(&text);
+    element.cloneNode(false).save(stream, 0);
+
+    QList<QDomAttr> attributes;
+    qsizetype name = 1 + element.tagName().size() + 1;
+    for (;;) {
+        const qsizetype nameEnd = text.indexOf(u'=', name);
+        const qsizetype valueEnd = text.indexOf(u'"', nameEnd + 2);
+        if (nameEnd < 0 || valueEnd < 0)
+            break;
+        if (const QDomAttr found = element.attributeNode(text.sliced(name, nameEnd - name)); !found.isNull())
+            attributes.append(found);
+        name = valueEnd + 2;
+    }
+    return attributes;
+}
+
+void sortByName(QList<QDomAttr> &attributes)
+{
+    std::ranges::sort(attributes, {}, &QDomAttr::name);
 }
 
 } // namespace
@@ -98,12 +128,16 @@ QDomElement Config::rootElement() const
 // the order of the names, so that it compares well with what was written before.
 QList<QDomAttr> Config::settings(const QDomNode &node)
 {
+    QList<QDomAttr> sorted = savedAttributes(node.toElement());
+    sortByName(sorted);
+    const auto repeated = std::ranges::unique(sorted, {}, &QDomAttr::name);
     const QDomNamedNodeMap attributes = node.attributes();
-    QList<QDomAttr> sorted;
-    sorted.reserve(attributes.length());
-    for (int i = 0; i < attributes.length(); ++i)
-        sorted.append(attributes.item(i).toAttr());
-    std::ranges::sort(sorted, {}, &QDomAttr::name);
+    if (!repeated.empty() || sorted.size() != attributes.length()) {
+        sorted.clear();
+        for (int i = 0; i < attributes.length(); ++i)
+            sorted.append(attributes.item(i).toAttr());
+        sortByName(sorted);
+    }
     return sorted;
 }
 

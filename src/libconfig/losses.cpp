@@ -8,6 +8,7 @@
 #include <QQueue>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -70,12 +71,16 @@ void explainUnreadableXml(const Section &section, const QString &key, QStringLis
         explainUnreadableXml(child, joined(key, child.name), losses);
 }
 
-// The characters of names and values, in an order of their own: a file may be laid out and ordered at will.
-QString lettersOf(QString text)
+// How often each character of names and values occurs: a file may be laid out and ordered at will.
+std::array<qsizetype, 0x100> letterCounts(const QByteArray &latin1)
 {
-    text.removeIf([](QChar c) { return c.isSpace() || QStringView(u"\":={};").contains(c); });
-    std::ranges::sort(text);
-    return text;
+    std::array<qsizetype, 0x100> counts = {};
+    for (const char letter : latin1)
+        ++counts[static_cast<unsigned char>(letter)];
+    for (std::size_t letter = 0; letter < counts.size(); ++letter)
+        if (const QChar c(static_cast<char16_t>(letter)); c.isSpace() || QStringView(u"\":={};").contains(c))
+            counts[letter] = 0;
+    return counts;
 }
 
 void collectTexts(const Section &section, QString &texts)
@@ -119,7 +124,7 @@ bool saysMore(const QByteArray &text, const QString &kind, const Section &conten
         });
     QString texts;
     collectTexts(content, texts);
-    return lettersOf(QString::fromLatin1(text)) != lettersOf(texts);
+    return letterCounts(text) != letterCounts(texts.toLatin1());
 }
 
 } // namespace libconfig

@@ -26,6 +26,9 @@ namespace {
 
 constexpr int messageMilliseconds = 4000;
 
+// Settings of one section. To lay them out opened takes the toolkit quadratic time: a second for so many.
+constexpr int mostOpened = 10'000;
+
 } // namespace
 
 EditorWindow::EditorWindow(const QString &path, const QString &type, Dialogs &dialogs)
@@ -108,8 +111,14 @@ void EditorWindow::showTree()
         m_view->setFocus();
 
     // Sections are closed at first, so that they fit the window; an opened one shows its values.
-    for (QTreeWidgetItemIterator item(m_view.get()); *item; ++item)
-        (*item)->setExpanded(valueItem(*item) || !(*item)->parent() || !(*item)->parent()->parent());
+    QList<QTreeWidgetItem *> opened;
+    for (QTreeWidgetItemIterator item(m_view.get()); *item; ++item) {
+        const QTreeWidgetItem *parent = (*item)->parent();
+        const bool isFileOrTop = !parent || !parent->parent();
+        if (isFileOrTop || (valueItem(*item) && parent->childCount() <= mostOpened))
+            opened.append(*item);
+    }
+    expandAll(opened);
     m_view->setCurrentItem(m_view->topLevelItem(0));
     m_view->setExpandsOnDoubleClick(false); // activation does
     m_view->setAccessibleName(u"Configuration"_s);

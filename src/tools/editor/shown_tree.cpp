@@ -47,6 +47,14 @@ QTreeWidgetItem *valueItem(QTreeWidgetItem *item)
     return const_cast<QTreeWidgetItem *>(valueItem(static_cast<const QTreeWidgetItem *>(item)));
 }
 
+void expandAll(const QList<QTreeWidgetItem *> &items)
+{
+    // What is below a closed item is not laid out, so the last comes first: each opened in view would lay out
+    // all.
+    for (auto item = items.crbegin(); item != items.crend(); ++item)
+        (*item)->setExpanded(true);
+}
+
 QString keyOf(const QTreeWidgetItem *item)
 {
     if (isValue(item))

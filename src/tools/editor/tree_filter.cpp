@@ -1,5 +1,7 @@
 #include "tree_filter.h"
 
+#include "shown_tree.h"
+
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -19,8 +21,7 @@ QTreeWidgetItem *TreeFilter::lookFor(const QString &text)
     m_lookedFor = text;
 
     m_view.collapseAll();
-    for (QTreeWidgetItem *item : std::as_const(m_openedBefore))
-        item->setExpanded(true);
+    expandAll(m_openedBefore);
     QTreeWidgetItem *first = nullptr;
     for (int i = 0; i < m_view.topLevelItemCount(); ++i) {
         QTreeWidgetItem *top = m_view.topLevelItem(i);
