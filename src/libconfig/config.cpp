@@ -39,32 +39,33 @@ QString valueBelow(const QDomNode &node, QStringView key)
     return {};
 }
 
-// Some of an element's attributes, mostly all. To ask the tree for each by its number takes quadratic time,
-// and saving them does not, so their names are taken from a saved copy: <tag name="value" name="value"/>,
-// where no value holds a quote. A name that holds "=" is not found in it.
-QList<QDomAttr> savedAttributes(QDomElement element)
+// The names of an element's attributes. To ask the tree for each by its number takes quadratic time, and
+// saving them does not, so they are taken from a saved copy: <tag name="value" name="value"/>, where no value
+// holds a quote. Only a name that holds "=" is not found in it.
+QStringList savedNames(const QDomElement &element)
 {
     QString text;
     QTextStream stream(&text);
     element.cloneNode(false).save(stream, 0);
 
-    QList<QDomAttr> attributes;
+    QStringList names;
     qsizetype name = 1 + element.tagName().size() + 1;
     for (;;) {
         const qsizetype nameEnd = text.indexOf(u'=', name);
         const qsizetype valueEnd = text.indexOf(u'"', nameEnd + 2);
         if (nameEnd < 0 || valueEnd < 0)
-            break;
-        if (const QDomAttr found = element.attributeNode(text.sliced(name, nameEnd - name)); !found.isNull())
-            attributes.append(found);
+            return names;
+        names.append(text.sliced(name, nameEnd - name));
         name = valueEnd + 2;
     }
-    return attributes;
 }
 
-void sortByName(QList<QDomAttr> &attributes)
+QStringList numberedNames(const QDomNamedNodeMap &attributes)
 {
-    std::ranges::sort(attributes, {}, &QDomAttr::name);
+    QStringList names;
+    for (int i = 0; i < attributes.length(); ++i)
+        names.append(attributes.item(i).nodeName());
+    return names;
 }
 
 } // namespace
@@ -128,16 +129,18 @@ QDomElement Config::rootElement() const
 // the order of the names, so that it compares well with what was written before.
 QList<QDomAttr> Config::settings(const QDomNode &node)
 {
-    QList<QDomAttr> sorted = savedAttributes(node.toElement());
-    sortByName(sorted);
-    const auto repeated = std::ranges::unique(sorted, {}, &QDomAttr::name);
     const QDomNamedNodeMap attributes = node.attributes();
-    if (!repeated.empty() || sorted.size() != attributes.length()) {
-        sorted.clear();
-        for (int i = 0; i < attributes.length(); ++i)
-            sorted.append(attributes.item(i).toAttr());
-        sortByName(sorted);
-    }
+    if (attributes.isEmpty())
+        return {};
+    QStringList names = savedNames(node.toElement());
+    names.removeIf([&](const QString &name) { return !attributes.contains(name); });
+    if (names.size() != attributes.length() || names.removeDuplicates() > 0)
+        names = numberedNames(attributes);
+    std::ranges::sort(names);
+
+    QList<QDomAttr> sorted;
+    for (const QString &name : std::as_const(names))
+        sorted.append(attributes.namedItem(name).toAttr());
     return sorted;
 }
 

@@ -163,6 +163,26 @@ private Q_SLOTS:
         QCOMPARE(result.exitStatus, 0);
     }
 
+    // In quadratic time each would take longer than a program may run here.
+    void manySettingsInOneSection()
+    {
+        QByteArray text = "s : {";
+        QByteArray tree = "s\n";
+        for (int i = 100'000; i < 200'000; ++i) {
+            const QByteArray name = 'k' + QByteArray::number(i);
+            text += name + "=v;";
+            tree += name + " = v\n";
+        }
+        const QString file = home->writeFile(u"some.conf"_s, text + "};");
+        const ProgramResult result = run({u"tree"_s, u"--file"_s, file});
+        QVERIFY(!result.crashed);
+        QVERIFY(result.standardOutput == "Tree \n" + file.toLatin1() + '\n' + tree);
+        const ProgramResult written = run({u"write"_s, u"--file"_s, file, file});
+        QCOMPARE(written.standardError, "");
+        QCOMPARE(written.exitStatus, 0);
+        QVERIFY(run({u"tree"_s, u"--file"_s, file}).standardOutput == result.standardOutput);
+    }
+
     void write_data()
     {
         QTest::addColumn<QString>("command");
