@@ -10,8 +10,7 @@
 #include "config.h"
 #include "diagnostic.h"
 #include "file_name.h"
-
-#include <sys/stat.h>
+#include "read_file.h"
 
 #include <string>
 
@@ -33,12 +32,11 @@ QString trimmed(const std::string &bytes)
 bool Config::openFile(const QString &name)
 {
     closeFile();
-    const QByteArray path = fileNameBytes(name);
-    struct stat status = {};
     // A directory opens as a stream that never ends, and a FIFO waits for a writer.
-    if (stat(path.constData(), &status) == 0 && S_ISREG(status.st_mode))
-        inputStream.open(path.constData(), std::ios::in | std::ios::binary);
-    if (inputStream.is_open())
+    if (isRegularFile(name))
+        m_file.open(fileNameBytes(name).constData(), std::ios::in | std::ios::binary);
+    m_inputStream.rdbuf(&m_file);
+    if (m_file.is_open())
         return true;
     printDiagnostic("Error in the method FileReader::open( " + shownFileName(name) + " ): File Not Found");
     return false;
@@ -46,18 +44,19 @@ bool Config::openFile(const QString &name)
 
 bool Config::openFile()
 {
-    return openFile(fileName);
+    return openFile(m_fileName);
 }
 
 void Config::closeFile()
 {
-    inputStream.close();
+    m_file.close();
+    m_text.str({});
 }
 
 // Straight from the buffer: a formatted stream's checks for every byte would be half the time of loading.
 int Config::nextByte()
 try {
-    return inputStream.rdbuf()->sbumpc();
+    return m_inputStream.rdbuf()->sbumpc();
 } catch (const std::ios_base::failure &) { // a file that cannot be read further ends there
     return endOfFile;
 }
@@ -74,23 +73,27 @@ void Config::loadFile()
 {
     // Without a file the stream is at its end from the start, and the store stays empty.
     openFile();
-    // Comes first: a document in which nothing was created is a null node, which takes no children.
-    const QDomElement root = document->createElement(fileName);
-    const bool endedByBrace = readStatements(root, *document);
-    if (!endedByBrace) // Meant so: behind a brace that closes no section the stream stays open.
+    loadStatements();
+}
+
+void Config::loadStatements()
+{
+    const QDomElement root = newRootElement();
+    const bool endedByBrace = readStatements(root, *m_document);
+    if (!endedByBrace) // Deliberate: behind a brace that closes no section the stream stays open.
         closeFile();
 }
 
 void Config::loadFile(const QString &name, const QDomNode &parent)
 {
-    if (nesting == maximumNesting) {
+    if (m_nesting == maximumNesting) {
         // Whoever nests this deep writes no configuration: reading ends, instead of the stack.
         closeFile();
         return;
     }
-    ++nesting;
-    readStatements(document->createElement(name), parent);
-    --nesting;
+    ++m_nesting;
+    readStatements(m_document->createElement(name), parent);
+    --m_nesting;
 }
 
 // Reads statements into the section up to its closing brace (true) or the end of the file (false). The
@@ -131,7 +134,7 @@ bool Config::readStatements(QDomElement section, QDomNode parent)
 QString Config::readValue()
 {
     std::string value;
-    std::getline(inputStream, value, ';');
+    std::getline(m_inputStream, value, ';');
     return trimmed(value).remove(u'"');
 }
 

@@ -1,5 +1,7 @@
 #include "config.h"
 
+#include <QTextStream>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +39,35 @@ QString valueBelow(const QDomNode &node, QStringView key)
     return {};
 }
 
+// The names of an element's attributes. To ask the tree for each by its number takes quadratic time, and
+// saving them does not, so they are taken from a saved copy: <tag name="value" name="value"/>, where no value
+// holds a quote. Only a name that holds "=" is not found in it.
+QStringList savedNames(const QDomElement &element)
+{
+    QString text;
+    QTextStream stream(&text);
+    element.cloneNode(false).save(stream, 0);
+
+    QStringList names;
+    qsizetype name = 1 + element.tagName().size() + 1;
+    for (;;) {
+        const qsizetype nameEnd = text.indexOf(u'=', name);
+        const qsizetype valueEnd = text.indexOf(u'"', nameEnd + 2);
+        if (nameEnd < 0 || valueEnd < 0)
+            return names;
+        names.append(text.sliced(name, nameEnd - name));
+        name = valueEnd + 2;
+    }
+}
+
+QStringList numberedNames(const QDomNamedNodeMap &attributes)
+{
+    QStringList names;
+    for (int i = 0; i < attributes.length(); ++i)
+        names.append(attributes.item(i).nodeName());
+    return names;
+}
+
 } // namespace
 
 Config::Config() = default;
@@ -55,20 +86,43 @@ void Config::readFile(const QString &file, const QString &type)
 
 void Config::constructor(const QString &file, const QString &type)
 {
-    fileName = file;
-    fileType = type;
-    document = std::make_unique<QDomDocument>();
+    begin(file, type);
     if (type == "cfg"_L1)
         loadFile();
     else if (type == "xml"_L1)
         loadXmlFile();
 }
 
+void Config::readText(const QByteArray &text, const QString &type)
+{
+    begin({}, type);
+    if (type == "cfg"_L1) {
+        m_text.str(text.toStdString());
+        m_inputStream.rdbuf(&m_text);
+        loadStatements();
+    } else if (type == "xml"_L1) {
+        loadXmlText(text);
+    }
+}
+
+void Config::begin(const QString &file, const QString &type)
+{
+    m_fileName = file;
+    m_fileType = type;
+    // Named, though without a name: a document made otherwise is a null node, which takes no children.
+    m_document = std::make_unique<QDomDocument>(QString());
+}
+
+QDomElement Config::newRootElement() const
+{
+    return m_document->createElement(m_fileName.isEmpty() ? u"-"_s : m_fileName); // none has an empty name
+}
+
 // The readers append the element named after the file last. In an "xml" file that begins with a declaration
 // or a comment the file's own root element is left standing before it, and must not answer in its place.
 QDomElement Config::rootElement() const
 {
-    return document ? document->lastChildElement() : QDomElement();
+    return m_document ? m_document->lastChildElement() : QDomElement();
 }
 
 // The tree keeps attributes in a hash whose order differs from run to run; what is shown or written comes in
@@ -76,12 +130,33 @@ QDomElement Config::rootElement() const
 QList<QDomAttr> Config::settings(const QDomNode &node)
 {
     const QDomNamedNodeMap attributes = node.attributes();
+    if (attributes.isEmpty())
+        return {};
+    QStringList names = savedNames(node.toElement());
+    names.removeIf([&](const QString &name) { return !attributes.contains(name); });
+    if (names.size() != attributes.length() || names.removeDuplicates() > 0)
+        names = numberedNames(attributes);
+    std::ranges::sort(names);
+
     QList<QDomAttr> sorted;
-    sorted.reserve(attributes.length());
-    for (int i = 0; i < attributes.length(); ++i)
-        sorted.append(attributes.item(i).toAttr());
-    std::ranges::sort(sorted, {}, &QDomAttr::name);
+    for (const QString &name : std::as_const(names))
+        sorted.append(attributes.namedItem(name).toAttr());
     return sorted;
+}
+
+Section Config::content() const
+{
+    return contentOf(rootElement());
+}
+
+Section Config::contentOf(const QDomElement &element)
+{
+    Section section{element.tagName(), {}, {}};
+    for (const QDomAttr &setting : settings(element))
+        section.settings.insert(setting.name(), setting.value());
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        section.sections.push_back(contentOf(child));
+    return section;
 }
 
 QString Config::lookup(const QString &key) const

@@ -1,12 +1,18 @@
 #pragma once
 
+#include "section.h"
+#include "write_file.h"
+
+#include <QByteArray>
 #include <QDomDocument>
 #include <QList>
 #include <QString>
 #include <QStringConverter>
 
 #include <fstream>
+#include <istream>
 #include <memory>
+#include <sstream>
 
 class QTextStream;
 class QTreeWidget;
@@ -44,6 +50,13 @@ public:
      */
     void readFile(const QString &file, const QString &type);
 
+    /* The same for the text of a file without a name. */
+    void readText(const QByteArray &text, const QString &type);
+
+    /* The whole tree as plain values: the root, which has the file's name, with all below it. An empty store
+     * gives a section without a name. */
+    Section content() const;
+
     /* The value of a dotted key such as "tavolux.language.file"; empty when there is none. The key's first
      * component names the first top-level section: no other is ever searched. */
     QString lookup(const QString &key) const;
@@ -54,10 +67,14 @@ public:
 
     /* Writes the root's settings and the first top-level section to the named file, or over the file that was
      * read when the name is empty, as "cfg" text (in Latin-1, as it is read) or as XML (in UTF-8). Values are
-     * written as they are, settings in the order of their names. True when the file was written whole;
-     * otherwise nothing is reported, and a regular file keeps what it held. */
-    bool buildConfigFile(const QString &name) const;
-    bool buildConfigXmlFile(const QString &name) const;
+     * written as they are, settings in the order of their names. A regular file is replaced whole or keeps
+     * what it held; a named device or FIFO is written as it stands. Nothing is printed. */
+    WriteResult buildConfigFile(const QString &name) const;
+    WriteResult buildConfigXmlFile(const QString &name) const;
+
+    /* What they write. */
+    QByteArray cfgText() const;
+    QByteArray xmlText() const;
 
     /* Writes one section with all below it, each line behind the indentation. */
     void buildConfigFile(const QDomNode &node, QTextStream &stream, const QString &indentation = {}) const;
@@ -77,10 +94,11 @@ public:
     void buildConfigListView(const QDomNode &node, QTreeWidgetItem *parent) const;
 
     /* Takes an edited view back as the new tree and writes it over the file that was read, in the kind it was
-     * read as. True when that was written whole; does nothing without a view. */
-    bool loadListView(const QTreeWidget *view);
+     * read as. Does nothing without a view. */
+    WriteResult loadListView(const QTreeWidget *view);
 
-    /* Rebuilds one item, with all below it, as a new last child of the parent. */
+    /* Rebuilds one item, with all below it, as a new last child of the parent: a document or a node of one.
+     */
     void loadListView(const QTreeWidgetItem *item, QDomNode parent);
 
 protected:
@@ -105,19 +123,28 @@ protected:
 private:
     using NodeWriter = void (Config::*)(const QDomNode &, QTextStream &, const QString &) const;
 
+    void begin(const QString &file, const QString &type);
+    void loadStatements();
+    void loadXmlText(const QByteArray &text);
+
+    QDomElement newRootElement() const;
     QDomElement rootElement() const;
+    static Section contentOf(const QDomElement &element);
     static QList<QDomAttr> settings(const QDomNode &node);
-    bool writeFile(const QString &name, QStringConverter::Encoding encoding, NodeWriter writeNode) const;
+    QByteArray written(QStringConverter::Encoding encoding, NodeWriter writeNode) const;
+    WriteResult save(const QString &name, const QByteArray &bytes) const;
 
     bool readStatements(QDomElement section, QDomNode parent);
     QString readValue();
     int nextByte();
 
-    QString fileName;
-    QString fileType;
-    std::ifstream inputStream;
-    std::unique_ptr<QDomDocument> document;
-    int nesting = 0;
+    QString m_fileName;
+    QString m_fileType;
+    std::filebuf m_file;
+    std::stringbuf m_text;
+    std::istream m_inputStream{&m_file}; // on either of them
+    std::unique_ptr<QDomDocument> m_document;
+    int m_nesting = 0;
 };
 
 } // namespace libconfig

@@ -72,24 +72,24 @@ void Config::buildConfigListView(const QDomNode &node, QTreeWidgetItem *parent) 
         buildConfigListView(child, section);
 }
 
-bool Config::loadListView(const QTreeWidget *view)
+WriteResult Config::loadListView(const QTreeWidget *view)
 {
     if (!view)
-        return false;
-    // Named, though without a name: a document made otherwise is a null node, which takes no children.
-    document = std::make_unique<QDomDocument>(QString());
+        return {u"There is nothing to write"_s};
+    begin(m_fileName, m_fileType);
     for (int i = 0; i < view->topLevelItemCount(); ++i)
-        loadListView(view->topLevelItem(i), *document);
-    if (fileType == "cfg"_L1)
+        loadListView(view->topLevelItem(i), *m_document);
+    if (m_fileType == "cfg"_L1)
         return buildConfigFile(QString());
-    if (fileType == "xml"_L1)
+    if (m_fileType == "xml"_L1)
         return buildConfigXmlFile(QString());
-    return false;
+    return {u"A file of this kind is not written"_s};
 }
 
 void Config::loadListView(const QTreeWidgetItem *item, QDomNode parent)
 {
-    QDomElement section = document->createElement(item->text(0));
+    QDomDocument owner = parent.isDocument() ? parent.toDocument() : parent.ownerDocument();
+    QDomElement section = owner.createElement(item->text(0));
     parent.appendChild(section);
     for (int i = 0; i < item->childCount(); ++i) {
         const QTreeWidgetItem *child = item->child(i);
@@ -99,7 +99,7 @@ void Config::loadListView(const QTreeWidgetItem *item, QDomNode parent)
         if (first->childCount() == 0)
             section.setAttribute(child->text(0), first->text(0));
         else
-            // Meant so: a section below one that is not its parent's first ends up in that first one.
+            // Deliberate: a section below one that is not its parent's first ends up in that first one.
             loadListView(child, parent.firstChild());
     }
 }

@@ -1,9 +1,7 @@
 #include "config.h"
 #include "diagnostic.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
+#include <QIODevice>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -14,44 +12,41 @@ namespace {
 
 constexpr QLatin1StringView indentationStep = "    "_L1;
 
-QString written(const QDomAttr &setting)
+QString statement(const QDomAttr &setting)
 {
     return setting.name() + " = \""_L1 + setting.value() + u'"';
 }
 
 } // namespace
 
-bool Config::writeFile(const QString &name, QStringConverter::Encoding encoding, NodeWriter writeNode) const
+QByteArray Config::written(QStringConverter::Encoding encoding, NodeWriter writeNode) const
 {
-    const auto writeTo = [&](QFileDevice &file) {
-        if (!file.open(QIODevice::WriteOnly))
-            return false;
-        QTextStream stream(&file);
-        stream.setEncoding(encoding);
-        const QDomElement root = rootElement();
-        for (const QDomAttr &setting : settings(root))
-            stream << written(setting) << ";\n";
-        if (const QDomNode firstSection = root.firstChild(); !firstSection.isNull())
-            (this->*writeNode)(firstSection, stream, {});
-        stream.flush();
-        return stream.status() == QTextStream::Ok;
-    };
-
-    const QString target = name.isEmpty() ? fileName : name;
-    // A device or a FIFO is written as it stands: replacing it would put a regular file in its place.
-    if (const QFileInfo info(target); info.exists() && !info.isFile()) {
-        QFile file(target);
-        return writeTo(file);
-    }
-    // A file is replaced whole or not at all. Where its folder takes no new file it stays as it is, since
-    // writing over it could lose it on a full disk.
-    QSaveFile file(target);
-    return writeTo(file) && file.commit();
+    QByteArray bytes;
+    QTextStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setEncoding(encoding);
+    const QDomElement root = rootElement();
+    for (const QDomAttr &setting : settings(root))
+        stream << statement(setting) << ";\n";
+    if (const QDomNode firstSection = root.firstChild(); !firstSection.isNull())
+        (this->*writeNode)(firstSection, stream, {});
+    stream.flush();
+    return bytes;
 }
 
-bool Config::buildConfigFile(const QString &name) const
+// The file that was read was a regular one; what has taken its place since is no configuration.
+WriteResult Config::save(const QString &name, const QByteArray &bytes) const
 {
-    return writeFile(name, QStringConverter::Latin1, &Config::buildConfigFile);
+    return name.isEmpty() ? replaceFile(m_fileName, bytes) : writeFile(name, bytes);
+}
+
+QByteArray Config::cfgText() const
+{
+    return written(QStringConverter::Latin1, &Config::buildConfigFile);
+}
+
+WriteResult Config::buildConfigFile(const QString &name) const
+{
+    return save(name, cfgText());
 }
 
 void Config::buildConfigFile(const QDomNode &node, QTextStream &stream, const QString &indentation) const
@@ -59,15 +54,20 @@ void Config::buildConfigFile(const QDomNode &node, QTextStream &stream, const QS
     const QString inner = indentation + indentationStep;
     stream << indentation << node.toElement().tagName() << ": \n" << indentation << "{\n";
     for (const QDomAttr &setting : settings(node))
-        stream << inner << written(setting) << ";\n";
+        stream << inner << statement(setting) << ";\n";
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
         buildConfigFile(child, stream, inner);
     stream << indentation << "};\n\n";
 }
 
-bool Config::buildConfigXmlFile(const QString &name) const
+QByteArray Config::xmlText() const
 {
-    return writeFile(name, QStringConverter::Utf8, &Config::buildConfigXmlFile);
+    return written(QStringConverter::Utf8, &Config::buildConfigXmlFile);
+}
+
+WriteResult Config::buildConfigXmlFile(const QString &name) const
+{
+    return save(name, xmlText());
 }
 
 void Config::buildConfigXmlFile(const QDomNode &node, QTextStream &stream, const QString &indentation) const
@@ -76,7 +76,7 @@ void Config::buildConfigXmlFile(const QDomNode &node, QTextStream &stream, const
     const QString tag = node.toElement().tagName();
     stream << '\n' << indentation << '<' << tag;
     for (const QDomAttr &setting : settings(node))
-        stream << '\n' << inner << written(setting);
+        stream << '\n' << inner << statement(setting);
     stream << ">\n";
     for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling())
         buildConfigXmlFile(child, stream, inner);

@@ -68,6 +68,14 @@ QByteArray fileNameBytes(const QString &name)
     return bytes + QStringView(name).sliced(textBegin).toUtf8();
 }
 
+QStringList commandLineArguments(int argc, const char *const argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(fileNameFromBytes(argv[i]));
+    return arguments;
+}
+
 QByteArray shownFileName(const QString &name)
 {
     QString shown = name;

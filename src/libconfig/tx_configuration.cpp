@@ -1,5 +1,7 @@
 #include "tx_configuration.h"
 
+#include "file_name.h"
+
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +27,10 @@ TXConfiguration::TXConfiguration(const QString &file, const QString &type)
 
 QString TXConfiguration::userFile()
 {
-    return QDir::homePath() + "/.tavolux/conf/tavolux.conf"_L1;
+    const QByteArray home = qgetenv("HOME");
+    // The toolkit's notion of a home directory, but for a name that it would not decode without loss.
+    const QString folder = home.isValidUtf8() ? QDir::homePath() : QDir::cleanPath(fileNameFromBytes(home));
+    return folder + "/.tavolux/conf/tavolux.conf"_L1;
 }
 
 QString TXConfiguration::getStrValue(const QString &key) const

@@ -1,48 +1,29 @@
 #include "config.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QXmlStreamReader>
+#include "read_file.h"
+#include "xml_walk.h"
 
 namespace libconfig {
 
-namespace {
-
-// Building and destroying a tree takes stack (and, building, quadratic time) by its depth.
-bool nestsDeeperThan(int limit, const QByteArray &text)
-{
-    QXmlStreamReader reader(text);
-    reader.setNamespaceProcessing(false); // the tree is built without, so no prefix ends the count
-    for (int depth = 0; !reader.atEnd();) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::StartElement && ++depth > limit)
-            return true;
-        if (token == QXmlStreamReader::EndElement)
-            --depth;
-    }
-    return false;
-}
-
-} // namespace
-
 // The document's first node is moved below a new root element named after the file, which gives the same
 // shape as the "cfg" kind. When that node is a declaration or a comment, no lookup finds anything.
-void Config::loadXmlFile()
+void Config::loadXmlText(const QByteArray &text)
 {
-    QFile file(fileName);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+    // Building and destroying a tree takes stack (and, building, quadratic time) by its depth.
+    if (!walkXml(text, [](const QXmlStreamReader &) {}))
         return;
-    const QByteArray text = file.readAll();
-    if (nestsDeeperThan(maximumNesting, text))
-        return;
-    if (!document->setContent(text)) {
-        document->clear();
+    if (!m_document->setContent(text)) {
+        m_document->clear();
         return;
     }
 
-    QDomElement root = document->createElement(fileName);
-    root.appendChild(document->firstChild());
-    document->appendChild(root);
+    QDomElement root = newRootElement();
+    root.appendChild(m_document->firstChild());
+    m_document->appendChild(root);
+}
+
+void Config::loadXmlFile()
+{
+    loadXmlText(readRegularFile(m_fileName).bytes);
 }
 
 } // namespace libconfig

@@ -74,6 +74,8 @@ private Q_SLOTS:
     void isNotSavedAsAnotherKind();
     void withoutViewDoesNothing();
     void keepsTheFileThatCannotBeWrittenWhole();
+    void leavesAloneWhatIsNoFileAnyMore();
+    void itemIsRebuiltInTheDocumentOfItsParent();
 
 private:
     const TemporaryHome home;
@@ -337,6 +339,28 @@ void ConfigTreeViewTest::keepsTheFileThatCannotBeWrittenWhole()
         QVERIFY(!config.loadListView(view.get()));
     }
     QCOMPARE(fileBytes(file), original);
+}
+
+void ConfigTreeViewTest::leavesAloneWhatIsNoFileAnyMore()
+{
+    const QString file = home.writeFile(u"b.conf"_s, "s : { k = v; };");
+    Config config(file, u"cfg"_s);
+    const std::unique_ptr<QTreeWidget> view = viewOf(config);
+    QVERIFY(QFile::remove(file));
+    home.makeFifo(u"b.conf"_s); // which nobody reads
+    QCOMPARE(config.loadListView(view.get()).fault, u"Not a regular file"_s);
+}
+
+void ConfigTreeViewTest::itemIsRebuiltInTheDocumentOfItsParent()
+{
+    const std::unique_ptr<QTreeWidget> view =
+        viewOf(Config(home.writeFile(u"a.conf"_s, "r : { s : { a = 1; }; };"), u"cfg"_s));
+    Config empty; // which has no document of its own
+    QDomDocument document(u"own"_s);
+    empty.loadListView(itemAt(*view, {u"r"_s}), document);
+    QCOMPARE(document.documentElement().tagName(), u"r"_s);
+    QCOMPARE(empty.lookup(document.documentElement(), u"r.s.a"_s), u"1"_s);
+    empty.loadListView(itemAt(*view, {u"r"_s}), QDomNode()); // has nowhere to go
 }
 
 QTEST_MAIN(ConfigTreeViewTest)

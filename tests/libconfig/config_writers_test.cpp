@@ -55,7 +55,7 @@ const QByteArray exampleAsXml = "\n"
                                 "    </doc>\n"
                                 "</tavolux>\n";
 
-using Writer = bool (libconfig::Config::*)(const QString &) const;
+using Writer = WriteResult (libconfig::Config::*)(const QString &) const;
 
 struct WrittenFile
 {
@@ -262,6 +262,23 @@ private Q_SLOTS:
         QCOMPARE(text,
                  u"    s: \n    {\n        k = \"v\";\n    };\n\n"
                  "\n    <s\n        k = \"v\">\n    </s>\n"_s);
+    }
+
+    void namesThatLookLikeTheEndOfAName()
+    {
+        QDomDocument document(u"d"_s);
+        QDomElement section = document.createElement(u"s"_s);
+        section.setAttribute(u"a"_s, u"1 \"<&> l = \"m\""_s);
+        section.setAttribute(u"a=\"b"_s, u"2"_s);
+        section.setAttribute(u"c="_s, u"="_s);
+        section.setAttribute(u" \"d\" "_s, u"3"_s);
+        const libconfig::Config config;
+        QString text;
+        QTextStream stream(&text);
+        config.buildConfigFile(section, stream);
+        QCOMPARE(text,
+                 u"s: \n{\n     \"d\"  = \"3\";\n    a = \"1 \"<&> l = \"m\"\";\n    a=\"b = \"2\";\n"
+                 "    c= = \"=\";\n};\n\n"_s);
     }
 
     void withoutANameTheFileThatWasReadIsWritten_data() { addWriters(); }

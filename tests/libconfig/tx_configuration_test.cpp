@@ -1,8 +1,12 @@
 #include "captured_output.h"
+#include "file_name.h"
 #include "temporary_home.h"
 #include "tx_configuration.h"
 
+#include <QFile>
 #include <QTest>
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -88,6 +92,17 @@ private Q_SLOTS:
         QCOMPARE(messages, QByteArray());
         QCOMPARE(basedir, u" /lang "_s);
         QCOMPARE(file, u"/"_s);
+    }
+
+    void homeDirectoryIsTheBytesOfItsName()
+    {
+        const TemporaryHome home;
+        home.writeConfiguration("s : { k = v; };");
+        const QByteArray renamed = QFile::encodeName(home.path()) + "-b\xE4r";
+        QCOMPARE(std::rename(QFile::encodeName(home.path()).constData(), renamed.constData()), 0);
+        qputenv("HOME", renamed + "//x/..");
+        QCOMPARE(fileNameBytes(TXConfiguration::userFile()), renamed + "/.tavolux/conf/tavolux.conf");
+        QCOMPARE(TXConfiguration().getStrValue(u"s.k"_s), u"v"_s);
     }
 
     void missingFileIsReportedOnce_data() { userFileIsReadFromTheHomeDirectory_data(); }

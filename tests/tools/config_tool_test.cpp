@@ -8,6 +8,9 @@
 
 #include <memory>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,7 +51,7 @@ private Q_SLOTS:
         QCOMPARE(result.standardError, "");
         for (const char *text :
              {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "init", "edit", "--file <FILE>",
-              "--type <cfg|xml>", "--columns <32|40|42|48>", "--help", "--version"})
+              "--type <cfg|xml>", "--columns <32|40|42|48>", "--force", "--help", "--version"})
             QVERIFY2(result.standardOutput.contains(text), text);
     }
 
@@ -75,6 +78,11 @@ private Q_SLOTS:
         QTest::newRow("write without a file") << QStringList{u"write"_s} << QByteArray("write needs OUT");
         QTest::newRow("write to an empty name")
             << QStringList{u"write"_s, QString()} << QByteArray("the name of the file to write is empty");
+        QTest::newRow("an empty name of the configuration")
+            << QStringList{u"--file"_s, QString(), u"init"_s}
+            << QByteArray("the name of the configuration is empty");
+        QTest::newRow("what would break the line")
+            << QStringList{u"a\nb\u001B[2J"_s} << QByteArray("there is no command \"a?b?[2J\"");
         QTest::newRow("too many words")
             << QStringList{u"tree"_s, u"x"_s} << QByteArray("tree does not take \"x\"");
         QTest::newRow("unknown option")
@@ -83,6 +91,8 @@ private Q_SLOTS:
                                       << QByteArray("the type \"ini\" is neither cfg nor xml");
         QTest::newRow("columns where they mean nothing")
             << QStringList{u"check"_s, u"--columns"_s, u"42"_s} << QByteArray("--columns is for init");
+        QTest::newRow("force where it means nothing")
+            << QStringList{u"check"_s, u"--force"_s} << QByteArray("--force is for write and write-xml");
         QTest::newRow("columns of no paper") << QStringList{u"init"_s, u"--columns"_s, u"41"_s}
                                              << QByteArray("\"41\" columns are none of 32|40|42|48");
         QTest::newRow("columns that are no number") << QStringList{u"init"_s, u"--columns"_s, u"wide"_s}
@@ -153,6 +163,26 @@ private Q_SLOTS:
         QCOMPARE(result.exitStatus, 0);
     }
 
+    // In quadratic time each would take longer than a program may run here.
+    void manySettingsInOneSection()
+    {
+        QByteArray text = "s : {";
+        QByteArray tree = "s\n";
+        for (int i = 100'000; i < 200'000; ++i) {
+            const QByteArray name = 'k' + QByteArray::number(i);
+            text += name + "=v;";
+            tree += name + " = v\n";
+        }
+        const QString file = home->writeFile(u"some.conf"_s, text + "};");
+        const ProgramResult result = run({u"tree"_s, u"--file"_s, file});
+        QVERIFY(!result.crashed);
+        QVERIFY(result.standardOutput == "Tree \n" + file.toLatin1() + '\n' + tree);
+        const ProgramResult written = run({u"write"_s, u"--file"_s, file, file});
+        QCOMPARE(written.standardError, "");
+        QCOMPARE(written.exitStatus, 0);
+        QVERIFY(run({u"tree"_s, u"--file"_s, file}).standardOutput == result.standardOutput);
+    }
+
     void write_data()
     {
         QTest::addColumn<QString>("command");
@@ -177,12 +207,89 @@ private Q_SLOTS:
         QTEST(fileBytes(out), "written");
         QCOMPARE(fileBytes(userFile()), configurationText);
 
-        for (const QString &unwritable : {home->filePath(u"nowhere/out"_s), u"/dev/full"_s, home->path()}) {
-            const ProgramResult failed = run({command, unwritable});
+        const QMap<QString, QByteArray> unwritable{
+            {home->filePath(u"nowhere/out"_s), "No such file or directory"},
+            {u"/dev/full"_s, "No space left on device"},
+            {home->path(), "Is a directory"}};
+        for (const auto &[name, fault] : unwritable.asKeyValueRange()) {
+            const ProgramResult failed = run({command, name});
             QCOMPARE(failed.exitStatus, 1);
             QCOMPARE(failed.standardOutput, "");
-            QCOMPARE(failed.standardError, "tavolux-config: cannot write " + unwritable.toLatin1() + "\n");
+            QCOMPARE(failed.standardError,
+                     "tavolux-config: cannot write " + name.toLatin1() + ": " + fault + '\n');
         }
+    }
+
+    void writeTellsWhatWouldBeLost_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QByteArray>("loss"); // FILE is the configuration
+        QTest::addColumn<QByteArray>("forced");
+
+        const QString cfg = u"cfg"_s;
+        const QString xml = u"xml"_s;
+        QTest::newRow("xml that begins with a declaration")
+            << xml << QByteArray("<?xml version='1.0'?><s k='v'/>") << u"write-xml"_s
+            << QByteArray("Everything is lost: the first node of FILE is not its root element.")
+            << QByteArray("\n<>\n</>\n");
+        QTest::newRow("xml with a comment")
+            << xml << QByteArray("<s k='v'/><!-- c -->") << u"write"_s
+            << QByteArray("Text that is no setting, such as a comment, is lost.")
+            << QByteArray("s: \n{\n    k = \"v\";\n};\n\n");
+        QTest::newRow("a remark") << cfg << QByteArray("s : { k = v; } remark;") << u"write"_s
+                                  << QByteArray("Text that is no setting, such as a comment, is lost.")
+                                  << QByteArray("s: \n{\n    k = \"v\";\n};\n\n");
+        QTest::newRow("second section at the top")
+            << cfg << QByteArray("s : { k = v; }; t : { k = v; };") << u"write"_s
+            << QByteArray("The section t is lost: only the first section at the top is saved.")
+            << QByteArray("s: \n{\n    k = \"v\";\n};\n\n");
+        QTest::newRow("a value that ends early") << xml << QByteArray("<s k='a;b'/>") << u"write"_s
+                                                 << QByteArray("The value of s.k, \"a;b\", becomes \"a\".")
+                                                 << QByteArray("s: \n{\n    k = \"a;b\";\n};\n\n");
+    }
+    void writeTellsWhatWouldBeLost()
+    {
+        QFETCH(const QString, kind);
+        QFETCH(const QByteArray, text);
+        QFETCH(const QString, command);
+        QFETCH(QByteArray, loss);
+        // The configuration itself is in danger as well.
+        for (const QString &out : {u"out"_s, u"some.conf"_s}) {
+            const QString file = home->writeFile(u"some.conf"_s, text);
+            const QStringList arguments{u"--file"_s, file, u"--type"_s, kind, command, home->filePath(out)};
+            ProgramResult result = run(arguments);
+            QCOMPARE(result.exitStatus, 1);
+            QCOMPARE(result.standardOutput, "");
+            QCOMPARE(result.standardError,
+                     "tavolux-config: " + loss.replace("FILE", file.toLatin1())
+                         + "\ntavolux-config: " + home->filePath(out).toLatin1()
+                         + " is not written; --force writes it all the same\n");
+            QVERIFY(!QFile::exists(home->filePath(u"out"_s)));
+            QCOMPARE(fileBytes(file), text);
+
+            result = run(arguments + QStringList(u"--force"_s));
+            QCOMPARE(result.standardError, "");
+            QCOMPARE(result.exitStatus, 0);
+            QTEST(fileBytes(home->filePath(out)), "forced");
+            QVERIFY(QFile::remove(home->filePath(out)));
+        }
+    }
+
+    void starterConfigurationLosesNothing()
+    {
+        QCOMPARE(run({u"init"_s}).exitStatus, 0);
+        for (const QString &command : {u"write-xml"_s, u"write"_s}) {
+            const ProgramResult result = run({command, home->filePath(command)});
+            QCOMPARE(result.standardError, "");
+            QCOMPARE(result.exitStatus, 0);
+        }
+        QCOMPARE(run({u"--file"_s, home->filePath(u"write-xml"_s), u"--type"_s, u"xml"_s, u"write"_s,
+                      home->filePath(u"back"_s)})
+                     .exitStatus,
+                 0);
+        QCOMPARE(fileBytes(home->filePath(u"back"_s)), fileBytes(home->filePath(u"write"_s)));
     }
 
     void xmlThatIsNotWellFormed_data()
@@ -216,9 +323,9 @@ private Q_SLOTS:
                userFile()
                    + ": No such file or directory\n"
                      "tavolux-config: \"tavolux-config init\" writes a configuration to start from"_L1);
-        verify({u"--file"_s, home->path()}, home->path() + ": it is no regular file"_L1);
+        verify({u"--file"_s, home->path()}, home->path() + ": Not a regular file"_L1);
         const QString pipe = home->makeFifo(u"pipe"_s); // reading it would wait for a writer
-        verify({u"--file"_s, pipe}, pipe + ": it is no regular file"_L1);
+        verify({u"--file"_s, pipe}, pipe + ": Not a regular file"_L1);
     }
 
     // To a check that is a finding.
@@ -357,8 +464,88 @@ private Q_SLOTS:
             QCOMPARE(result.standardError, "tavolux-config: cannot " + message.toLatin1() + '\n');
         };
         const QString file = home->writeFile(u"file"_s, "");
-        verify(file + "/some.conf"_L1, "make the folder "_L1 + file);
+        verify(file + "/some.conf"_L1, "make the folder "_L1 + file + ": Not a directory"_L1);
         verify(u"/proc/self/some.conf"_s, u"write /proc/self/some.conf: No such file or directory"_s);
+    }
+
+    // A limit that is not told by signal: the system's own way is to end the program.
+    void fullDisk_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<int>("exitStatus");
+        QTest::newRow("init") << u"init"_s << 2;
+        QTest::newRow("write") << u"--file ../some.conf write .tavolux/conf/tavolux.conf"_s << 1;
+        QTest::newRow("write-xml") << u"--file ../some.conf write-xml .tavolux/conf/tavolux.conf"_s << 1;
+    }
+    void fullDisk()
+    {
+        QFETCH(const QString, command);
+        QVERIFY(QDir().mkpath(QFileInfo(userFile()).path()));
+        home->writeFile(u"../some.conf"_s, "tavolux : { k = " + QByteArray(10'000, 'x') + "; };");
+        const ProgramResult result =
+            runProgram(u"/bin/sh"_s, {u"-c"_s, "ulimit -f 1; exec \"$0\" "_L1 + command, configTool},
+                       {{u"HOME"_s, home->path()}}, {}, inFolder(home->path()));
+        QVERIFY(!result.crashed);
+        QTEST(result.exitStatus, "exitStatus");
+        QVERIFY2(result.standardError.endsWith("tavolux.conf: File too large\n"),
+                 result.standardError.constData());
+        // Nothing is left, so that the next attempt begins anew.
+        QCOMPARE(QDir(QFileInfo(userFile()).path())
+                     .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
+                 QStringList());
+        QCOMPARE(run({u"init"_s}).exitStatus, 0);
+    }
+
+    void saysWhatOfAFileIsNotKept()
+    {
+        if (geteuid() != 0)
+            QSKIP("only root can leave files to others");
+        home->writeConfiguration(configurationText);
+        const QByteArray out = home->writeFile(u"out"_s, "old").toLatin1();
+        const QByteArray folder = home->path().toLatin1();
+        for (const QByteArray &open : {folder, folder + "/..", out})
+            QCOMPARE(chmod(open.constData(), 0777), 0);
+        const ProgramResult result = runProgram(configTool, {u"write"_s, home->filePath(u"out"_s)},
+                                                {{u"HOME"_s, home->path()}}, {}, [] {
+                                                    constexpr id_t nobody = 65534;
+                                                    if (setgid(nobody) != 0 || setuid(nobody) != 0)
+                                                        _exit(127);
+                                                });
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardError,
+                 "tavolux-config: " + out
+                     + " is written, but its owner and group could not be kept: Operation not permitted\n");
+    }
+
+    void namesAreBytes()
+    {
+        // In the shell, since a test's own arguments are text.
+        const auto shell = [this](const QString &script) {
+            return runProgram(u"/bin/sh"_s,
+                              {u"-ec"_s, "b=$(printf 'b\\344r'); export b; "_L1 + script, configTool},
+                              {{u"HOME"_s, home->path()}}, {}, inFolder(home->path()));
+        };
+        ProgramResult result = shell(u"\"$0\" --file \"$b/$b\" init; test -f \"$b/$b\""_s);
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(result.standardOutput, "b\xE4r/b\xE4r\n");
+        QCOMPARE(result.exitStatus, 0);
+        result = shell(u"\"$0\" --file \"$b/$b\" write \"$b/$b.out\"; test -f \"$b/$b.out\""_s);
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(result.exitStatus, 0);
+        result = shell(u"mkdir \"$b\"/home; HOME=\"$HOME/$b/home\"; \"$0\" init;"
+                       "test -f \"$b\"/home/.tavolux/conf/tavolux.conf; \"$0\" get tavolux.doc.paperWidth"_s);
+        QCOMPARE(result.standardError, "");
+        QVERIFY(result.standardOutput.endsWith("b\xE4r/home/.tavolux/conf/tavolux.conf\n42\n"));
+        QCOMPARE(result.exitStatus, 0);
+        result = shell(u"\"$0\" --file \"$b\"/none check || true; \"$0\" write \"$b\"/none/none"_s);
+        QCOMPARE(result.standardError.split('\n').first(),
+                 "tavolux-config: cannot read b\xE4r/none: No such file or directory");
+        result =
+            shell(u"PATH=$PWD; printf '#!/bin/sh\\necho \"$2\"\\n' > tavolux-config-editor;"
+                  "/bin/chmod +x tavolux-config-editor; /bin/cp \"$0\" \"$b\"; exec \"$b\"/tavolux-config"
+                  " --file \"$b/$b\" edit"_s);
+        QCOMPARE(result.standardOutput, "b\xE4r/b\xE4r\n");
+        shell(u"rm -r \"$b\""_s); // which the test's own folder could not
     }
 
     void edit()

@@ -2,6 +2,8 @@
 
 #include "config.h"
 #include "dialogs.h"
+#include "file_name.h"
+#include "read_file.h"
 #include "temporary_home.h"
 #include "tx_configuration.h"
 
@@ -18,7 +20,12 @@
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
+#include <cstdio>
 #include <memory>
+
+#include <sys/fsuid.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -116,6 +123,9 @@ private Q_SLOTS:
     void tellsWhatCannotBeRead();
     void tellsHowToBeginAConfiguration();
     void tellsWhatCannotBeWritten();
+    void doesNotWaitForAPipe();
+    void opensAndSavesANameOfBytes();
+    void saysWhatOfAFileIsNotKept();
     void asksInMessageBoxes();
     void cutsLongExplanationsInMessageBoxes();
 
@@ -498,7 +508,7 @@ void EditorWindowTest::asksBeforeAValueChanges()
     change(u"r.language.file"_s, u"a;b"_s);
     dialogs.answers << QMessageBox::Save;
     press(Qt::Key_S, Qt::ControlModifier);
-    QCOMPARE(dialogs.heard.mid(1), QStringList{u"The value of r.language.file, “a;b”, becomes “a”."_s});
+    QCOMPARE(dialogs.heard.mid(1), QStringList{u"The value of r.language.file, \"a;b\", becomes \"a\"."_s});
     QCOMPARE(value(u"r.language.file"_s)->text(0), u"a"_s);
     QVERIFY(!window->isWindowModified());
 }
@@ -632,16 +642,16 @@ void EditorWindowTest::tellsWhatCannotBeRead_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("reason");
     QTest::newRow("missing") << u"missing"_s << u"cfg"_s << u"No such file or directory."_s;
-    QTest::newRow("folder") << u"folder"_s << u"cfg"_s << u"It is no regular file."_s;
+    QTest::newRow("folder") << u"folder"_s << u"cfg"_s << u"Not a regular file."_s;
     QTest::newRow("empty") << u"empty"_s << u"cfg"_s << u"It holds no setting."_s;
     QTest::newRow("missing xml") << u"missing"_s << u"xml"_s << u"No such file or directory."_s;
-    QTest::newRow("not well-formed") << u"open.xml"_s << u"xml"_s << u"It is no XML: line 2, column 4: "_s;
+    QTest::newRow("not well-formed") << u"open.xml"_s << u"xml"_s
+                                     << u"Line 2: this is no well-formed XML, so nothing in it is read: "_s;
     QTest::newRow("declaration")
         << u"declared.xml"_s << u"xml"_s
-        << u"It must begin with its root element: nothing is found behind a declaration or a comment, nor in elements nested deeper than 256."_s;
-    QTest::newRow("deep")
-        << u"deep.xml"_s << u"xml"_s
-        << u"It must begin with its root element: nothing is found behind a declaration or a comment, nor in elements nested deeper than 256."_s;
+        << u"It must begin with its root element: after a declaration or a comment nothing is found."_s;
+    QTest::newRow("deep") << u"deep.xml"_s << u"xml"_s
+                          << u"Line 1: sections nest deeper than 256, so nothing in the file is read."_s;
 }
 
 void EditorWindowTest::tellsWhatCannotBeRead()
@@ -683,18 +693,63 @@ void EditorWindowTest::tellsWhatCannotBeWritten()
     QVERIFY(QDir(home->path()).rename(u"folder"_s, u"elsewhere"_s));
     dialogs.answers << QMessageBox::Save;
     press(Qt::Key_S, Qt::ControlModifier);
-    QCOMPARE(
-        dialogs.heard.mid(1),
-        QStringList(
-            {u"Cannot write %1"_s.arg(file),
-             u"Either the folder is missing, or you have no right to write there, or the disk is full."_s,
-             u"The changes are still in this window."_s}));
+    QCOMPARE(dialogs.heard.mid(1),
+             QStringList({u"Cannot write %1"_s.arg(file), u"No such file or directory."_s,
+                          u"The changes are still in this window."_s}));
     QVERIFY(window->isWindowModified());
     QCOMPARE(value(u"r.receipt.paperWidth"_s)->text(0), u"48"_s);
     QCOMPARE(fileBytes(home->filePath(u"elsewhere/my.conf"_s)), configuration);
 
     QVERIFY(QDir(home->path()).rename(u"elsewhere"_s, u"folder"_s));
     press(Qt::Key_S, Qt::ControlModifier); // the file is the one that was read, so nothing is asked
+    QCOMPARE(fileBytes(file), configurationWithWidth("48"));
+}
+
+void EditorWindowTest::doesNotWaitForAPipe()
+{
+    open(configuration);
+    change(u"r.receipt.paperWidth"_s, u"48"_s);
+    QVERIFY(QFile::remove(file));
+    home->makeFifo(u"my.conf"_s); // which nobody reads
+    dialogs.answers << QMessageBox::Save;
+    press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(dialogs.heard,
+             QStringList({u"%1 was changed by another program. Save over it?"_s.arg(file),
+                          u"Cannot write %1"_s.arg(file), u"Not a regular file."_s,
+                          u"The changes are still in this window."_s}));
+    QVERIFY(window->isWindowModified());
+}
+
+void EditorWindowTest::opensAndSavesANameOfBytes()
+{
+    const QByteArray path = QFile::encodeName(home->path()) + "/b\xE4r.conf";
+    QCOMPARE(std::rename(QFile::encodeName(home->writeFile(u"my.conf"_s, configuration)).constData(),
+                         path.constData()),
+             0);
+    openFile(fileNameFromBytes(path));
+    change(u"r.receipt.paperWidth"_s, u"48"_s);
+    press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(dialogs.heard, QStringList());
+    QCOMPARE(readRegularFile(fileNameFromBytes(path)).bytes, configurationWithWidth("48"));
+    QCOMPARE(unlink(path.constData()), 0); // which the test's own folder could not
+}
+
+void EditorWindowTest::saysWhatOfAFileIsNotKept()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can leave files to others");
+    openFile(home->writeFile(u"my.conf"_s, configuration));
+    change(u"r.receipt.paperWidth"_s, u"48"_s);
+    const QByteArray folder = QFile::encodeName(home->path());
+    for (const QByteArray &shared : {folder, folder + "/..", QFile::encodeName(file)})
+        QCOMPARE(chmod(shared.constData(), 0777), 0);
+    constexpr uid_t nobody = 65534;
+    setfsuid(nobody);
+    press(Qt::Key_S, Qt::ControlModifier);
+    setfsuid(0);
+    QCOMPARE(dialogs.heard, QStringList());
+    QCOMPARE(window->statusBar()->currentMessage(),
+             u"Saved, but its owner could not be kept: Operation not permitted."_s);
     QCOMPARE(fileBytes(file), configurationWithWidth("48"));
 }
 
@@ -724,7 +779,7 @@ void EditorWindowTest::asksInMessageBoxes()
     QVERIFY(!window->close());
     const QStringList expected{u"The changes in %1 are not saved. Save them?"_s.arg(file), QString(),
                                u"Saving changes more than the values shown. Save all the same?"_s,
-                               u"The value of r.language.file, “a;b”, becomes “a”."_s};
+                               u"The value of r.language.file, \"a;b\", becomes \"a\"."_s};
     QCOMPARE(texts, expected);
     QCOMPARE(fileBytes(file), configuration);
 }

@@ -2,18 +2,21 @@
 
 #include "configuration_check.h"
 #include "configuration_scan.h"
+#include "file_name.h"
+#include "losses.h"
 #include "nearest_name.h"
+#include "read_file.h"
 #include "starter_configuration.h"
 #include "tx_configuration.h"
+#include "write_file.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <cerrno>
+#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <vector>
@@ -21,25 +24,28 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using libconfig::lossesByWriting;
+using libconfig::saysMore;
 
 namespace {
 
 constexpr QLatin1StringView programName = "tavolux-config"_L1;
 constexpr QLatin1StringView editorName = "tavolux-config-editor"_L1;
 
-void print(const QString &line)
+void print(QByteArrayView line)
 {
-    std::cout << line.toLocal8Bit().toStdString() << '\n'; // a value may hold NUL
+    std::cout.write(line.data(), line.size()) << '\n';
 }
 
 void complain(const QString &message)
 {
-    std::cerr << QString(programName + ": "_L1 + message).toLocal8Bit().constData() << '\n';
+    std::cerr << shownFileName(programName + ": "_L1 + message).constData() << '\n';
 }
 
 ExitStatus refuse(const QString &message)
 {
-    complain(message + "\nTry \"tavolux-config --help\"."_L1);
+    complain(message);
+    std::cerr << "Try \"tavolux-config --help\".\n";
     return exitTrouble;
 }
 
@@ -50,77 +56,106 @@ struct Task
     QString kind;
     QString argument; // the command's own, if it takes one
     int columns;
+    bool force;
 };
 
-std::optional<QByteArray> readFile(const QString &name)
+std::optional<QByteArray> textOf(const QString &name)
 {
-    QFile file(name);
-    // The store reads regular files only.
-    if (file.exists() && !QFileInfo(name).isFile()) {
-        complain(u"cannot read %1: it is no regular file"_s.arg(name));
-        return {};
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        complain(u"cannot read %1: %2"_s.arg(name, file.errorString()));
-        if (!file.exists())
-            complain(u"\"tavolux-config init\" writes a configuration to start from"_s);
-        return {};
-    }
-    return file.readAll();
+    FileContent content = readRegularFile(name);
+    if (content.fault.isEmpty())
+        return std::move(content.bytes);
+    complain(u"cannot read %1: %2"_s.arg(name, content.fault));
+    if (content.isMissing)
+        complain(u"\"tavolux-config init\" writes a configuration to start from"_s);
+    return {};
 }
 
-/* Whether the store can read the file; it would not say why it cannot. */
-bool isReadable(const Task &task)
+/* A file that the store can read; it would not say why it cannot. */
+struct Source
 {
-    const std::optional<QByteArray> text = readFile(task.file);
+    QByteArray text;
+    bool beginsWithRoot;
+};
+
+std::optional<Source> readSource(const Task &task)
+{
+    const std::optional<QByteArray> text = textOf(task.file);
     if (!text)
-        return false;
+        return {};
     const Scan scan = scanConfiguration(*text, task.kind);
     if (scan.fault.isEmpty())
-        return true;
+        return Source{*text, scan.beginsWithRoot};
     complain(u"cannot read %1, line %2: %3"_s.arg(task.file, QString::number(scan.faultLine), scan.fault));
-    return false;
+    return {};
 }
 
 ExitStatus printValue(const Task &task)
 {
-    if (!isReadable(task))
+    if (!readSource(task))
         return exitTrouble;
     const QString value = TXConfiguration(task.file, task.kind).getStrValue(task.argument);
-    print(value);
+    print(fileNameBytes(value));
     return value.isEmpty() ? exitNegative : exitSuccess;
 }
 
 ExitStatus printTree(const Task &task)
 {
-    if (!isReadable(task))
+    if (!readSource(task))
         return exitTrouble;
     TXConfiguration(task.file, task.kind).printConfigTree();
     return exitSuccess;
 }
 
-template <bool (libconfig::Config::*build)(const QString &) const>
-ExitStatus write(const Task &task)
+ExitStatus writeAs(QLatin1StringView kind, const Task &task)
 {
     if (task.argument.isEmpty())
         return refuse(u"the name of the file to write is empty"_s);
-    if (!isReadable(task))
+    const std::optional<Source> source = readSource(task);
+    if (!source)
         return exitTrouble;
-    if ((TXConfiguration(task.file, task.kind).*build)(task.argument))
-        return exitSuccess;
-    complain(u"cannot write %1"_s.arg(task.argument));
-    return exitNegative;
+    const TXConfiguration configuration(task.file, task.kind);
+    if (!task.force) {
+        QStringList losses;
+        if (!source->beginsWithRoot)
+            losses << u"Everything is lost: the first node of %1 is not its root element."_s.arg(task.file);
+        else if (saysMore(source->text, task.kind, configuration.content()))
+            losses << u"Text that is no setting, such as a comment, is lost."_s;
+        losses += lossesByWriting(configuration, kind);
+        for (const QString &loss : std::as_const(losses))
+            complain(loss);
+        if (!losses.isEmpty()) {
+            complain(u"%1 is not written; --force writes it all the same"_s.arg(task.argument));
+            return exitNegative;
+        }
+    }
+    const WriteResult result = kind == "xml"_L1 ? configuration.buildConfigXmlFile(task.argument)
+                                                : configuration.buildConfigFile(task.argument);
+    if (!result)
+        complain(u"cannot write %1: %2"_s.arg(task.argument, result.fault));
+    else if (!result.remark.isEmpty())
+        complain(u"%1 is written, but %2"_s.arg(task.argument, result.remark));
+    return result ? exitSuccess : exitNegative;
+}
+
+ExitStatus writeCfg(const Task &task)
+{
+    return writeAs("cfg"_L1, task);
+}
+
+ExitStatus writeXml(const Task &task)
+{
+    return writeAs("xml"_L1, task);
 }
 
 ExitStatus check(const Task &task)
 {
-    const std::optional<QByteArray> text = readFile(task.file);
+    const std::optional<QByteArray> text = textOf(task.file);
     if (!text)
         return exitTrouble;
     const std::vector<Finding> findings = checkConfiguration(task.file, task.kind, *text);
     for (const auto &[line, finding] : findings)
-        print(line == 0 ? u"%1: %2"_s.arg(task.file, finding)
-                        : u"%1:%2: %3"_s.arg(task.file, QString::number(line), finding));
+        print(shownFileName(line == 0 ? u"%1: %2"_s.arg(task.file, finding)
+                                      : u"%1:%2: %3"_s.arg(task.file, QString::number(line), finding)));
     return findings.empty() ? exitSuccess : exitNegative;
 }
 
@@ -128,24 +163,26 @@ ExitStatus init(const Task &task)
 {
     if (task.kind != "cfg"_L1)
         return refuse(u"a starter configuration is of the kind cfg"_s);
-    if (const QString folder = QFileInfo(task.file).path(); !QDir().mkpath(folder)) {
-        complain(u"cannot make the folder %1"_s.arg(folder));
+    std::error_code error;
+    const std::filesystem::path folder =
+        std::filesystem::path(fileNameBytes(task.file).toStdString()).parent_path();
+    if (!folder.empty())
+        create_directories(folder, error);
+    if (error) {
+        complain(u"cannot make the folder %1: %2"_s.arg(fileNameFromBytes(folder.native()),
+                                                        qt_error_string(error.value())));
         return exitTrouble;
     }
-    QFile file(task.file);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        const bool exists = QFileInfo::exists(task.file) || QFileInfo(task.file).isSymLink();
-        complain(exists ? u"%1 exists already and stays as it is"_s.arg(task.file)
-                        : u"cannot write %1: %2"_s.arg(task.file, file.errorString()));
-        return exists ? exitNegative : exitTrouble;
+    const WriteResult result = createFile(task.file, starterConfiguration(task.columns));
+    if (result.alreadyExists) {
+        complain(u"%1 exists already and stays as it is"_s.arg(task.file));
+        return exitNegative;
     }
-    const QByteArray text = starterConfiguration(task.columns);
-    if (file.write(text) != text.size() || !file.flush()) {
-        complain(u"cannot write %1: %2"_s.arg(task.file, file.errorString()));
-        file.remove();
+    if (!result) {
+        complain(u"cannot write %1: %2"_s.arg(task.file, result.fault));
         return exitTrouble;
     }
-    print(task.file);
+    print(fileNameBytes(task.file));
     return exitSuccess;
 }
 
@@ -161,13 +198,14 @@ ExitStatus edit(const Task &task)
 
     QList<QByteArray> arguments;
     for (const QString &argument : {editor, u"--file"_s, task.file, u"--type"_s, task.kind})
-        arguments.append(QFile::encodeName(argument));
+        arguments.append(fileNameBytes(argument));
     std::vector<char *> argv;
     for (QByteArray &argument : arguments)
         argv.push_back(argument.data());
     argv.push_back(nullptr);
     ::execv(argv.front(), argv.data());
-    complain(u"cannot start %1: %2"_s.arg(editor, qt_error_string()));
+    const int error = errno;
+    complain(u"cannot start %1: %2"_s.arg(editor, qt_error_string(error)));
     return exitTrouble;
 }
 
@@ -183,10 +221,8 @@ constexpr Command commands[] = {
     {"get"_L1, "KEY"_L1,
      "print the value that the printing program sees, such as of tavolux.doc.paperWidth"_L1, printValue},
     {"tree"_L1, ""_L1, "print all sections and settings"_L1, printTree},
-    {"write"_L1, "OUT"_L1, "write the configuration to OUT, of the kind cfg"_L1,
-     write<&libconfig::Config::buildConfigFile>},
-    {"write-xml"_L1, "OUT"_L1, "write the configuration to OUT, of the kind xml"_L1,
-     write<&libconfig::Config::buildConfigXmlFile>},
+    {"write"_L1, "OUT"_L1, "write the configuration to OUT, of the kind cfg"_L1, writeCfg},
+    {"write-xml"_L1, "OUT"_L1, "write the configuration to OUT, of the kind xml"_L1, writeXml},
     {"check"_L1, ""_L1, "name what the printing program passes over in silence"_L1, check},
     {"init"_L1, ""_L1, "write a complete configuration to start from"_L1, init},
     {"edit"_L1, ""_L1, "edit the configuration in a window"_L1, edit},
@@ -201,9 +237,9 @@ QString commandHelp()
                                     command.help);
     return help
         + "\nThe exit status is 0 when all is well, 1 when a value is empty, a check found something, OUT "
-          "could not\n"
-          "be written whole or the file to begin exists, and 2 after wrong usage, when FILE cannot be read\n"
-          "or begun, or when there is no editor."_L1;
+          "is not\n"
+          "written whole or the file to begin exists, and 2 after wrong usage, when FILE cannot be read or\n"
+          "begun, or when there is no editor or no display for it."_L1;
 }
 
 QString widthsText()
@@ -240,21 +276,23 @@ ExitStatus runCommand(const QStringList &arguments)
     const QCommandLineOption columnsOption(
         u"columns"_s, u"For init: how many characters the paper is wide, 42 without this option."_s,
         widthsText(), u"42"_s);
+    const QCommandLineOption forceOption(
+        u"force"_s, u"For write and write-xml: write OUT though settings or other text are lost."_s);
     const QCommandLineOption helpOption({u"h"_s, u"help"_s}, u"Shows this help."_s);
     const QCommandLineOption versionOption({u"v"_s, u"version"_s}, u"Shows the version."_s);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(commandHelp());
-    parser.addOptions({fileOption, kindOption, columnsOption, helpOption, versionOption});
+    parser.addOptions({fileOption, kindOption, columnsOption, forceOption, helpOption, versionOption});
     parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s, u"COMMAND [KEY|OUT]"_s);
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     if (parser.isSet(helpOption)) {
-        print(parser.helpText().trimmed());
+        print(parser.helpText().trimmed().toUtf8());
         return exitSuccess;
     }
     if (parser.isSet(versionOption)) {
-        print(programName + " " TAVOLUX_VERSION ""_L1);
+        print("tavolux-config " TAVOLUX_VERSION);
         return exitSuccess;
     }
 
@@ -270,12 +308,16 @@ ExitStatus runCommand(const QStringList &arguments)
     if (words.size() > expected)
         return refuse(u"%1 does not take \"%2\""_s.arg(command->name, words.at(expected)));
 
+    if (parser.value(fileOption).isEmpty())
+        return refuse(u"the name of the configuration is empty"_s);
     const Task task{parser.value(fileOption), parser.value(kindOption), words.value(1),
-                    parser.value(columnsOption).toInt()};
+                    parser.value(columnsOption).toInt(), parser.isSet(forceOption)};
     if (task.kind != "cfg"_L1 && task.kind != "xml"_L1)
         return refuse(u"the type \"%1\" is neither cfg nor xml"_s.arg(task.kind));
     if (parser.isSet(columnsOption) && command->run != init)
         return refuse(u"--columns is for init"_s);
+    if (task.force && command->run != writeCfg && command->run != writeXml)
+        return refuse(u"--force is for write and write-xml"_s);
     if (!starterPaperWidths().contains(task.columns))
         return refuse(u"\"%1\" columns are none of %2"_s.arg(parser.value(columnsOption), widthsText()));
     return command->run(task);

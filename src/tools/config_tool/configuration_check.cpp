@@ -3,6 +3,7 @@
 #include "configuration_scan.h"
 #include "document_profile.h"
 #include "nearest_name.h"
+#include "quoted.h"
 #include "tx_configuration.h"
 
 #include <QHash>
@@ -108,19 +109,6 @@ bool isOnOneLine(const QString &text)
     return !containsAny(text, u"\r\n");
 }
 
-/* The text as a message shows it: on one line, not too long, nothing that a terminal would obey, quoted. */
-QString quoted(const QString &text)
-{
-    constexpr qsizetype longest = 50;
-    QString shown = isOnOneLine(text) ? text : text.simplified();
-    if (shown.size() > longest)
-        shown = shown.first(longest) + u'…';
-    for (QChar &character : shown)
-        if (character.category() == QChar::Other_Control)
-            character = QChar::ReplacementCharacter;
-    return u'"' + shown + u'"';
-}
-
 // What is meant as a value holds nothing that looks like a statement.
 bool swallowsStatements(const QString &value)
 {
@@ -156,34 +144,35 @@ class Check
 {
 public:
     Check(const QString &file, const QString &fileKind, const QByteArray &text)
-        : kind(fileKind)
-        , scan(scanConfiguration(text, fileKind))
-        , configuration(file, fileKind)
+        : m_kind(fileKind)
+        , m_scan(scanConfiguration(text, fileKind))
+        , m_configuration(file, fileKind)
     {
     }
 
     std::vector<Finding> findings()
     {
-        if (!scan.fault.isEmpty())
-            return {{scan.faultLine, scan.fault}};
-        if (kind == "cfg"_L1 && !scan.statements.empty() && scan.statements.front().name.startsWith(u'<'))
+        if (!m_scan.fault.isEmpty())
+            return {{m_scan.faultLine, m_scan.fault}};
+        if (m_kind == "cfg"_L1 && !m_scan.statements.empty()
+            && m_scan.statements.front().name.startsWith(u'<'))
             return {
-                {scan.statements.front().line,
+                {m_scan.statements.front().line,
                  u"this looks like XML, which --type xml checks; the printing program reads cfg alone"_s}};
-        if (!scan.beginsWithRoot)
+        if (!m_scan.beginsWithRoot)
             add(1,
                 u"the first node is not the root element but a declaration or a comment, so nothing in the "
                 u"file is found"_s);
-        for (const Statement &statement : scan.statements)
+        for (const Statement &statement : m_scan.statements)
             check(statement);
-        for (const OpenSection &section : open)
+        for (const OpenSection &section : m_open)
             add(section.line, u"the section %1 is not closed"_s.arg(quoted(section.name)));
-        if (firstSection.isEmpty())
+        if (m_firstSection.isEmpty())
             add(0, u"there is no section \"tavolux\" with settings in it, so nothing is found"_s);
         checkColumns();
         checkTranslation();
-        std::ranges::stable_sort(found, {}, &Finding::line);
-        return found;
+        std::ranges::stable_sort(m_found, {}, &Finding::line);
+        return m_found;
     }
 
 private:
@@ -198,7 +187,7 @@ private:
         QHash<QString, int> settingLines = {};
     };
 
-    void add(int line, const QString &text) { found.push_back({line, text}); }
+    void add(int line, const QString &text) { m_found.push_back({line, text}); }
 
     void check(const Statement &statement)
     {
@@ -219,6 +208,8 @@ private:
                     u"%1 is passed over; is a semicolon or a brace missing before it?"_s.arg(
                         quoted(statement.name)));
             break;
+        case Kind::remark:
+            break;
         case Kind::leftoverText:
             add(statement.line, u"%1 belongs to no setting and is passed over"_s.arg(quoted(statement.name)));
             break;
@@ -228,11 +219,11 @@ private:
     void beginSection(const Statement &statement)
     {
         enterTopSection();
-        if (open.size() == libconfig::Config::maximumNesting) {
+        if (m_open.size() == libconfig::Config::maximumNesting) {
             add(statement.line,
                 u"sections nest deeper than %1, so the reading ends here"_s.arg(
                     libconfig::Config::maximumNesting));
-            open.clear();
+            m_open.clear();
             return;
         }
 
@@ -241,34 +232,34 @@ private:
             add(section.line, u"no opening brace follows the section %1"_s.arg(quoted(section.name)));
         else if (section.name.isEmpty())
             add(section.line, u"a section without a name is never read"_s);
-        else if (isLegible(section.line, section.name) && !open.empty() && open.back().isRead)
+        else if (isLegible(section.line, section.name) && !m_open.empty() && m_open.back().isRead)
             checkSection(section);
         if (statement.complete)
-            open.push_back(section);
+            m_open.push_back(section);
     }
 
     void endSection(int line)
     {
-        if (open.empty())
+        if (m_open.empty())
             add(line, u"a closing brace that closes no section ends the reading here"_s);
         else
-            open.pop_back();
+            m_open.pop_back();
     }
 
     // A top-level section is there only once something stands in it.
     void enterTopSection()
     {
-        if (open.size() != 1 || std::exchange(open.front().holdsStatements, true)
-            || open.front().name.isEmpty())
+        if (m_open.size() != 1 || std::exchange(m_open.front().holdsStatements, true)
+            || m_open.front().name.isEmpty())
             return;
-        OpenSection &section = open.front();
-        if (!firstSection.isEmpty()) {
+        OpenSection &section = m_open.front();
+        if (!m_firstSection.isEmpty()) {
             add(section.line,
                 u"the section %1 is never read: only the first one, %2, is"_s.arg(quoted(section.name),
-                                                                                  quoted(firstSection)));
+                                                                                  quoted(m_firstSection)));
             return;
         }
-        firstSection = section.name;
+        m_firstSection = section.name;
         section.isRead = section.name == topSection;
         if (!section.isRead)
             add(section.line,
@@ -279,7 +270,7 @@ private:
     // A section below one that is read.
     void checkSection(OpenSection &section)
     {
-        OpenSection &parent = open.back();
+        OpenSection &parent = m_open.back();
         const QMap<QString, KnownSettings> &known = knownSections();
         section.path = parent.path + u'.' + section.name;
         section.isRead = known.contains(section.path);
@@ -293,7 +284,7 @@ private:
                                                                     suggestion(section.name, names)));
             return;
         }
-        lineOf.insert(section.path, lineOf.value(section.path, section.line));
+        m_lineOf.insert(section.path, m_lineOf.value(section.path, section.line));
         if (const auto earlier = earlierLine(parent.sectionLines, section.name, section.line))
             add(section.line,
                 u"the section %1 is given twice, first in line %2; of each setting the first that is not "
@@ -305,21 +296,21 @@ private:
         enterTopSection();
         const QString name = quoted(setting.name);
         const bool legible = isLegible(setting.line, setting.name);
-        if (open.empty())
+        if (m_open.empty())
             add(setting.line, u"%1 is set outside of any section, where it is never found"_s.arg(name));
         if (!setting.complete)
             add(setting.line,
                 u"the value of %1 runs to the end of the file; is a semicolon missing?"_s.arg(name));
-        if (kind == "cfg"_L1 && swallowsStatements(setting.value)) {
+        if (m_kind == "cfg"_L1 && swallowsStatements(setting.value)) {
             add(setting.line,
                 u"the value of %1 takes in %2; is a semicolon missing?"_s.arg(name, quoted(setting.value)));
             return;
         }
         checkCharacters(setting.line, setting.value);
-        if (!legible || open.empty() || !open.back().isRead)
+        if (!legible || m_open.empty() || !m_open.back().isRead)
             return;
 
-        OpenSection &section = open.back();
+        OpenSection &section = m_open.back();
         const KnownSettings &known = knownSections()[section.path];
         const auto valueKind = known.constFind(setting.name);
         if (valueKind == known.cend()) {
@@ -328,7 +319,7 @@ private:
                                                                     suggestion(setting.name, known.keys())));
             return;
         }
-        lineOf.insert(section.path + u'.' + setting.name, setting.line);
+        m_lineOf.insert(section.path + u'.' + setting.name, setting.line);
         if (const auto earlier = earlierLine(section.settingLines, setting.name, setting.line))
             add(setting.line,
                 u"%1 is given twice, first in line %2; the last one counts"_s.arg(name,
@@ -374,15 +365,15 @@ private:
 
     void checkCharacters(int line, const QString &text)
     {
-        if (kind == "cfg"_L1 && isUtf8ReadAsLatin1(text))
+        if (m_kind == "cfg"_L1 && isUtf8ReadAsLatin1(text))
             add(line, u"this is UTF-8, but the file is read as Latin-1: %1"_s.arg(quoted(text)));
-        if (kind == "xml"_L1 && std::ranges::any_of(text, [](QChar c) { return c.unicode() > 0xFF; }))
+        if (m_kind == "xml"_L1 && std::ranges::any_of(text, [](QChar c) { return c.unicode() > 0xFF; }))
             add(line, u"characters outside of Latin-1 are read as question marks: %1"_s.arg(quoted(text)));
     }
 
     QString value(const QString &section, QLatin1StringView setting) const
     {
-        return configuration.getStrValue(section + u'.' + setting);
+        return m_configuration.getStrValue(section + u'.' + setting);
     }
 
     void checkColumns()
@@ -395,7 +386,7 @@ private:
             if (profile.paperWidth == 0)
                 profile.paperWidth = devicePaperWidth;
             if (const int width = descriptionWidth(profile); width <= 0)
-                add(lineOf.value(section),
+                add(m_lineOf.value(section),
                     u"%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3"_s
                         .arg(quoted(section), QString::number(profile.paperWidth),
                              QString::number(profile.paperWidth - width)));
@@ -419,17 +410,17 @@ private:
         if (swallowsStatements(name))
             return; // named already
         if (!translator.load(name))
-            add(lineOf.value(languageSection + ".file"_L1, lineOf.value(languageSection + ".basedir"_L1)),
+            add(m_lineOf.value(languageSection + ".file"_L1, m_lineOf.value(languageSection + ".basedir"_L1)),
                 u"the translation \"%1\" is not found"_s.arg(name));
     }
 
-    const QString kind;
-    const Scan scan;
-    const TXConfiguration configuration;
-    std::vector<Finding> found;
-    std::vector<OpenSection> open;
-    QString firstSection;
-    QHash<QString, int> lineOf; // of sections that are read and of their settings, by path
+    const QString m_kind;
+    const Scan m_scan;
+    const TXConfiguration m_configuration;
+    std::vector<Finding> m_found;
+    std::vector<OpenSection> m_open;
+    QString m_firstSection;
+    QHash<QString, int> m_lineOf; // of sections that are read and of their settings, by path
 };
 
 } // namespace

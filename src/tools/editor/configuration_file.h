@@ -31,13 +31,13 @@ public:
     /* What writing the view would do to it besides writing it down: one line each. */
     QStringList changesByWriting(const QTreeWidget &view) const;
 
-    /* Writes the view over the file. Otherwise returns false, and the file keeps what it held. */
-    bool write(const QTreeWidget &view);
+    /* Writes the view over the file, or leaves the file as it was. */
+    WriteResult write(const QTreeWidget &view);
 
 private:
-    QString filePath;
-    QString type;
-    std::unique_ptr<libconfig::Config> store;
-    QByteArray content;
-    bool holdsUnshownText = false; // comments and the like, when it was read
+    QString m_path;
+    QString m_type;
+    std::unique_ptr<libconfig::Config> m_store;
+    QByteArray m_bytes;
+    bool m_holdsUnshownText = false; // comments and the like, when it was read
 };

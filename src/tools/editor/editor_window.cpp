@@ -1,6 +1,8 @@
 #include "editor_window.h"
 
 #include "dialogs.h"
+#include "file_name.h"
+#include "read_file.h"
 #include "tx_configuration.h"
 
 #include <QAction>
@@ -16,45 +18,50 @@
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
+#include <iostream>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int messageMilliseconds = 4000;
 
+// Settings of one section. To lay them out opened takes the toolkit quadratic time: a second for so many.
+constexpr int mostOpened = 10'000;
+
 } // namespace
 
-EditorWindow::EditorWindow(const QString &path, const QString &type, Dialogs &windowDialogs)
-    : file(path, type)
-    , dialogs(windowDialogs)
-    , findField(new QLineEdit)
-    , keyLabel(new QLabel)
+EditorWindow::EditorWindow(const QString &path, const QString &type, Dialogs &dialogs)
+    : m_file(path, type)
+    , m_dialogs(dialogs)
+    , m_findField(new QLineEdit)
+    , m_keyLabel(new QLabel)
 {
     setWindowTitle(u"%1[*]"_s.arg(QFileInfo(path).fileName()));
     resize(640, 560);
 
     auto *findLabel = new QLabel(u"Fi&nd:"_s);
-    findLabel->setBuddy(findField);
-    findField->setObjectName(u"find"_s);
-    findField->setClearButtonEnabled(true);
-    findField->setPlaceholderText(u"section, setting or value"_s);
-    connect(findField, &QLineEdit::textChanged, this, &EditorWindow::find);
-    connect(findField, &QLineEdit::returnPressed, this, [this] { view->setFocus(); });
-    auto *escape = new QShortcut(Qt::Key_Escape, findField);
+    findLabel->setBuddy(m_findField);
+    m_findField->setObjectName(u"find"_s);
+    m_findField->setClearButtonEnabled(true);
+    m_findField->setPlaceholderText(u"section, setting or value"_s);
+    connect(m_findField, &QLineEdit::textChanged, this, &EditorWindow::find);
+    connect(m_findField, &QLineEdit::returnPressed, this, [this] { m_view->setFocus(); });
+    auto *escape = new QShortcut(Qt::Key_Escape, m_findField);
     escape->setContext(Qt::WidgetShortcut);
     connect(escape, &QShortcut::activated, this, &EditorWindow::endFind);
 
     auto *findRow = new QHBoxLayout;
     findRow->addWidget(findLabel);
-    findRow->addWidget(findField);
+    findRow->addWidget(m_findField);
     auto *rows = new QVBoxLayout;
     rows->addLayout(findRow);
     setCentralWidget(new QWidget);
     centralWidget()->setLayout(rows);
 
-    keyLabel->setObjectName(u"key"_s);
-    keyLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    statusBar()->addWidget(keyLabel);
+    m_keyLabel->setObjectName(u"key"_s);
+    m_keyLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    statusBar()->addWidget(m_keyLabel);
     createActions();
     showTree();
 }
@@ -71,66 +78,72 @@ void EditorWindow::createActions()
 
     QMenu *editMenu = menuBar()->addMenu(u"&Edit"_s);
     editMenu->addAction(u"&Edit Value"_s, QKeySequence(Qt::Key_F2), this, [this] {
-        if (QTreeWidgetItem *item = view->currentItem(); item && valueItem(item))
+        if (QTreeWidgetItem *item = m_view->currentItem(); item && valueItem(item))
             activate(item);
     });
     editMenu->addAction(u"&Find"_s, QKeySequence::Find, this, [this] {
-        findField->setFocus(Qt::ShortcutFocusReason);
-        findField->selectAll();
+        m_findField->setFocus(Qt::ShortcutFocusReason);
+        m_findField->selectAll();
     });
 }
 
 void EditorWindow::open()
 {
-    const QString reason = file.read();
+    const QString reason = m_file.read();
     if (reason.isEmpty()) {
         showTree();
         return;
     }
     QStringList details{reason};
-    if (file.path() == TXConfiguration::userFile() && !QFileInfo::exists(file.path()))
+    if (m_file.path() == TXConfiguration::userFile() && readRegularFile(m_file.path()).isMissing)
         details << u"The command “tavolux-config init” writes a configuration to start from."_s;
-    dialogs.tell(u"Cannot read %1"_s.arg(file.path()), details);
+    m_dialogs.tell(u"Cannot read %1"_s.arg(m_file.path()), details);
 }
 
 // Puts a new view of what was read in the place of the one shown.
 void EditorWindow::showTree()
 {
-    const bool finding = focusWidget() == findField;
-    view = file.view();
-    centralWidget()->layout()->addWidget(view.get());
-    view->show(); // the layout shows it later, too late for the focus
+    const bool finding = focusWidget() == m_findField;
+    m_view = m_file.view();
+    centralWidget()->layout()->addWidget(m_view.get());
+    m_view->show(); // the layout shows it later, too late for the focus
     if (!finding)
-        view->setFocus();
+        m_view->setFocus();
 
     // Sections are closed at first, so that they fit the window; an opened one shows its values.
-    for (QTreeWidgetItemIterator item(view.get()); *item; ++item)
-        (*item)->setExpanded(valueItem(*item) || !(*item)->parent() || !(*item)->parent()->parent());
-    view->setCurrentItem(view->topLevelItem(0));
-    view->setExpandsOnDoubleClick(false); // activation does
-    view->setAccessibleName(u"Configuration"_s);
+    QList<QTreeWidgetItem *> opened;
+    for (QTreeWidgetItemIterator item(m_view.get()); *item; ++item) {
+        const QTreeWidgetItem *parent = (*item)->parent();
+        const bool isFileOrTop = !parent || !parent->parent();
+        if (isFileOrTop || (valueItem(*item) && parent->childCount() <= mostOpened))
+            opened.append(*item);
+    }
+    expandAll(opened);
+    m_view->setCurrentItem(m_view->topLevelItem(0));
+    m_view->setExpandsOnDoubleClick(false); // activation does
+    m_view->setAccessibleName(u"Configuration"_s);
 
-    connect(view.get(), &QTreeWidget::itemChanged, this, &EditorWindow::updateModified);
-    connect(view.get(), &QTreeWidget::itemActivated, this, &EditorWindow::activate);
-    connect(view.get(), &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *item) {
-        keyLabel->setText(item ? keyOf(item).simplified() : QString());
+    connect(m_view.get(), &QTreeWidget::itemChanged, this, &EditorWindow::updateModified);
+    connect(m_view.get(), &QTreeWidget::itemActivated, this, &EditorWindow::activate);
+    connect(m_view.get(), &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *item) {
+        m_keyLabel->setText(item ? keyOf(item).simplified() : QString());
     });
-    unchanged = shownSections(*view);
+    m_unchanged = shownSections(*m_view);
     updateModified();
-    filter.emplace(*view);
-    find(findField->text());
+    m_filter.emplace(*m_view);
+    find(m_findField->text());
 }
 
 // A value is still being typed when a shortcut is pressed in its field; leaving the field takes it over.
 void EditorWindow::commitTypedValue()
 {
-    if (view->isAncestorOf(QApplication::focusWidget()))
-        view->setFocus();
+    if (m_view->isAncestorOf(QApplication::focusWidget()))
+        m_view->setFocus();
 }
 
 void EditorWindow::updateModified()
 {
-    setWindowModified(shownSections(*view) != unchanged);
+    setWindowModified(shownSections(*m_view) != m_unchanged);
 }
 
 bool EditorWindow::save()
@@ -142,30 +155,35 @@ bool EditorWindow::save()
     }
 
     constexpr QMessageBox::StandardButtons saveOrCancel = QMessageBox::Save | QMessageBox::Cancel;
-    if (file.changedOnDisk()
-        && dialogs.ask(u"%1 was changed by another program. Save over it?"_s.arg(file.path()), {},
-                       saveOrCancel)
+    if (m_file.changedOnDisk()
+        && m_dialogs.ask(u"%1 was changed by another program. Save over it?"_s.arg(m_file.path()), {},
+                         saveOrCancel)
             != QMessageBox::Save)
         return false;
-    const QStringList sideEffects = file.changesByWriting(*view);
+    const QStringList sideEffects = m_file.changesByWriting(*m_view);
     if (!sideEffects.isEmpty()
-        && dialogs.ask(u"Saving changes more than the values shown. Save all the same?"_s, sideEffects,
-                       saveOrCancel)
+        && m_dialogs.ask(u"Saving changes more than the values shown. Save all the same?"_s, sideEffects,
+                         saveOrCancel)
             != QMessageBox::Save)
         return false;
 
-    if (!file.write(*view)) {
-        dialogs.tell(
-            u"Cannot write %1"_s.arg(file.path()),
-            {u"Either the folder is missing, or you have no right to write there, or the disk is full."_s,
-             u"The changes are still in this window."_s});
+    const WriteResult written = m_file.write(*m_view);
+    if (!written) {
+        m_dialogs.tell(u"Cannot write %1"_s.arg(m_file.path()),
+                       {written.fault + u'.', u"The changes are still in this window."_s});
         return false;
     }
-    unchanged = shownSections(*view);
+    if (!written.remark.isEmpty())
+        std::cerr << shownFileName(QApplication::applicationName() + ": "_L1 + m_file.path()
+                                   + " is written, but "_L1 + written.remark)
+                         .constData()
+                  << std::endl;
+    m_unchanged = shownSections(*m_view);
     updateModified();
     if (!sideEffects.isEmpty())
         open(); // so that the window shows what was made of it
-    statusBar()->showMessage(u"Saved."_s, messageMilliseconds);
+    statusBar()->showMessage(written.remark.isEmpty() ? u"Saved."_s : u"Saved, but %1."_s.arg(written.remark),
+                             messageMilliseconds);
     return true;
 }
 
@@ -186,8 +204,8 @@ bool EditorWindow::mayLoseChanges()
     if (!isWindowModified())
         return true;
     const QMessageBox::StandardButton answer =
-        dialogs.ask(u"The changes in %1 are not saved. Save them?"_s.arg(file.path()), {},
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+        m_dialogs.ask(u"The changes in %1 are not saved. Save them?"_s.arg(m_file.path()), {},
+                      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
@@ -200,26 +218,26 @@ void EditorWindow::activate(QTreeWidgetItem *item)
         return;
     }
     value->parent()->setExpanded(true);
-    view->setCurrentItem(value);
-    if (!view->isPersistentEditorOpen(value))
-        view->editItem(value);
+    m_view->setCurrentItem(value);
+    if (!m_view->isPersistentEditorOpen(value))
+        m_view->editItem(value);
 }
 
 void EditorWindow::find(const QString &text)
 {
     statusBar()->clearMessage();
-    QTreeWidgetItem *match = filter->lookFor(text);
+    QTreeWidgetItem *match = m_filter->lookFor(text);
     if (!text.isEmpty()) {
-        view->setCurrentItem(match); // no hidden item, which would be edited unseen
+        m_view->setCurrentItem(match); // no hidden item, which would be edited unseen
         if (!match)
             statusBar()->showMessage(u"Nothing found."_s, messageMilliseconds);
     }
-    if (view->currentItem())
-        view->scrollToItem(view->currentItem());
+    if (m_view->currentItem())
+        m_view->scrollToItem(m_view->currentItem());
 }
 
 void EditorWindow::endFind()
 {
-    findField->clear();
-    view->setFocus();
+    m_findField->clear();
+    m_view->setFocus();
 }

@@ -52,11 +52,11 @@ private:
     void find(const QString &text);
     void endFind();
 
-    ConfigurationFile file;
-    Dialogs &dialogs;
-    Section unchanged;
-    QLineEdit *findField; // owned by the window, like the label
-    QLabel *keyLabel;
-    std::unique_ptr<QTreeWidget> view;
-    std::optional<TreeFilter> filter;
+    ConfigurationFile m_file;
+    Dialogs &m_dialogs;
+    libconfig::Section m_unchanged;
+    QLineEdit *m_findField; // owned by the window, like the label
+    QLabel *m_keyLabel;
+    std::unique_ptr<QTreeWidget> m_view;
+    std::optional<TreeFilter> m_filter;
 };

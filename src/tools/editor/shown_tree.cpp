@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTreeWidget>
 
+using libconfig::Section;
+
 namespace {
 
 // What can be edited is a value, and nothing else is: a section whose first section is empty has the same
@@ -43,6 +45,14 @@ const QTreeWidgetItem *valueItem(const QTreeWidgetItem *item)
 QTreeWidgetItem *valueItem(QTreeWidgetItem *item)
 {
     return const_cast<QTreeWidgetItem *>(valueItem(static_cast<const QTreeWidgetItem *>(item)));
+}
+
+void expandAll(const QList<QTreeWidgetItem *> &items)
+{
+    // What is below a closed item is not laid out, so the last comes first: each opened in view would lay out
+    // all.
+    for (auto item = items.crbegin(); item != items.crend(); ++item)
+        (*item)->setExpanded(true);
 }
 
 QString keyOf(const QTreeWidgetItem *item)

@@ -1,29 +1,21 @@
 #pragma once
 
-#include <QMap>
-#include <QString>
+#include "section.h"
 
-#include <vector>
+#include <QList>
 
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/* A section as a tree view shows it: what two configurations are compared by. */
-struct Section
-{
-    QString name;
-    QMap<QString, QString> settings;
-    std::vector<Section> sections;
-
-    bool operator==(const Section &other) const = default;
-};
-
 /* Everything that the view shows: a section without a name, with the items at the top as its sections. */
-Section shownSections(const QTreeWidget &view);
+libconfig::Section shownSections(const QTreeWidget &view);
 
 /* The item that holds the value of a setting, given as its name's or its value's item; null for a section. */
 QTreeWidgetItem *valueItem(QTreeWidgetItem *item);
 const QTreeWidgetItem *valueItem(const QTreeWidgetItem *item);
+
+/* Opens the items, given in the order of the tree. */
+void expandAll(const QList<QTreeWidgetItem *> &items);
 
 /* The dotted key of an item, as lookups spell it: without the file's own item at the top and without the
  * value. */

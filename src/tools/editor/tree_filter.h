@@ -23,7 +23,7 @@ public:
 private:
     QTreeWidgetItem *showMatches(QTreeWidgetItem *item, bool belowMatch);
 
-    QTreeWidget &view;
-    QString lookedFor;
-    QList<QTreeWidgetItem *> openedBefore;
+    QTreeWidget &m_view;
+    QString m_lookedFor;
+    QList<QTreeWidgetItem *> m_openedBefore;
 };

@@ -1,9 +1,9 @@
 #include "configuration_scan.h"
 
 #include "config.h"
+#include "xml_walk.h"
 
 #include <QDomDocument>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <optional>
@@ -26,34 +26,34 @@ public:
     };
 
     explicit PieceReader(const QByteArray &bytes)
-        : rest(bytes)
+        : m_rest(bytes)
     {
     }
 
     /* The text up to one of the stops, which is passed, or to the end of the file. */
     Piece takeTo(QByteArrayView stops)
     {
-        const auto *const end = std::ranges::find_first_of(rest, stops);
-        const QString bytes = QString::fromLatin1(rest.first(end - rest.begin()));
+        const auto *const end = std::ranges::find_first_of(m_rest, stops);
+        const QString bytes = QString::fromLatin1(m_rest.first(end - m_rest.begin()));
         const QString text = bytes.trimmed();
         const qsizetype blanks = text.isEmpty() ? bytes.size() : bytes.indexOf(text.front());
-        Piece piece{text, line + lineEnds(bytes.first(blanks)), {}};
-        line += lineEnds(bytes);
-        rest = rest.sliced(bytes.size());
-        if (!rest.empty()) {
-            piece.stop = rest.front();
-            rest = rest.sliced(1);
+        Piece piece{text, m_line + lineEnds(bytes.first(blanks)), {}};
+        m_line += lineEnds(bytes);
+        m_rest = m_rest.sliced(bytes.size());
+        if (!m_rest.empty()) {
+            piece.stop = m_rest.front();
+            m_rest = m_rest.sliced(1);
         }
         return piece;
     }
 
-    int currentLine() const { return line; }
+    int currentLine() const { return m_line; }
 
 private:
     static int lineEnds(QStringView text) { return static_cast<int>(text.count(u'\n')); }
 
-    QByteArrayView rest;
-    int line = 1;
+    QByteArrayView m_rest;
+    int m_line = 1;
 };
 
 QString xmlFault(const QString &reason)
@@ -103,33 +103,37 @@ Scan scanXml(const QByteArray &text)
     // A tag begins where the token before it ends; only what stands before the root element is no token.
     int line = 1 + static_cast<int>(text.first(std::max(text.indexOf('<'), qsizetype{0})).count('\n'));
 
-    QXmlStreamReader reader(text);
-    reader.setNamespaceProcessing(false);
-    for (int depth = 0; !reader.atEnd(); line = std::max(line, static_cast<int>(reader.lineNumber()))) {
-        switch (reader.readNext()) {
+    const bool isShallow = libconfig::walkXml(text, [&](const QXmlStreamReader &reader) {
+        switch (reader.tokenType()) {
         case QXmlStreamReader::StartElement:
             scan.statements.push_back({Kind::sectionBegins, line, reader.qualifiedName().toString()});
             for (const QXmlStreamAttribute &attribute : reader.attributes())
                 scan.statements.push_back({Kind::setting, line, attribute.qualifiedName().toString(),
                                            attribute.value().toString()});
-            if (++depth > libconfig::Config::maximumNesting) {
-                scan.fault = u"sections nest deeper than %1, so nothing in the file is read"_s.arg(
-                    libconfig::Config::maximumNesting);
-                scan.faultLine = line;
-                return scan;
-            }
             break;
         case QXmlStreamReader::EndElement:
             scan.statements.push_back({Kind::sectionEnds, line});
-            --depth;
             break;
         case QXmlStreamReader::Characters:
             if (!reader.isWhitespace())
                 scan.statements.push_back({Kind::leftoverText, line, reader.text().trimmed().toString()});
             break;
+        case QXmlStreamReader::Comment:
+        case QXmlStreamReader::DTD:
+        case QXmlStreamReader::EntityReference:
+        case QXmlStreamReader::ProcessingInstruction:
+            scan.statements.push_back({Kind::remark, line, reader.text().trimmed().toString()});
+            break;
         default:
             break;
         }
+        line = std::max(line, static_cast<int>(reader.lineNumber()));
+    });
+    if (!isShallow) {
+        scan.fault = u"sections nest deeper than %1, so nothing in the file is read"_s.arg(
+            libconfig::Config::maximumNesting);
+        scan.faultLine = scan.statements.back().line;
+        return scan;
     }
 
     QDomDocument document;

@@ -128,11 +128,9 @@ QByteArray nested(int depth)
 
 QString shown(const Statement &statement)
 {
-    static const QMap<Kind, QString> kinds{{Kind::sectionBegins, u"begin"_s},
-                                           {Kind::sectionEnds, u"end"_s},
-                                           {Kind::setting, u"set"_s},
-                                           {Kind::skippedText, u"skipped"_s},
-                                           {Kind::leftoverText, u"leftover"_s}};
+    static const QMap<Kind, QString> kinds{
+        {Kind::sectionBegins, u"begin"_s}, {Kind::sectionEnds, u"end"_s},       {Kind::setting, u"set"_s},
+        {Kind::skippedText, u"skipped"_s}, {Kind::leftoverText, u"leftover"_s}, {Kind::remark, u"remark"_s}};
     QString text = QString::number(statement.line) + u' ' + kinds[statement.kind];
     if (!statement.name.isEmpty())
         text += " <"_L1 + statement.name + u'>';
@@ -259,8 +257,9 @@ private Q_SLOTS:
             << QByteArray("\n<s\n  k='v'\n  l='w'>\n\n  <t\n/>\n</s>\n")
             << QStringList{u"2 begin <s>"_s, u"2 set <k> <v>"_s, u"2 set <l> <w>"_s,
                            u"6 begin <t>"_s, u"7 end"_s,         u"8 end"_s};
-        QTest::newRow("text and comments") << QByteArray("<s>\n<!-- c -->x\n</s>")
-                                           << QStringList{u"1 begin <s>"_s, u"2 leftover <x>"_s, u"3 end"_s};
+        QTest::newRow("text and comments")
+            << QByteArray("<s>\n<!-- c -->x\n</s>")
+            << QStringList{u"1 begin <s>"_s, u"2 remark <c>"_s, u"2 leftover <x>"_s, u"3 end"_s};
         QTest::newRow("names with a colon")
             << QByteArray("<a:s b:k='v'/>")
             << QStringList{u"1 begin <a:s>"_s, u"1 set <b:k> <v>"_s, u"1 end"_s};
@@ -326,6 +325,15 @@ private Q_SLOTS:
         QCOMPARE(scanXml(text).fault, QString());
         const QString file = home.writeFile(u"tavolux.xml"_s, text);
         QVERIFY(printedByStore(libconfig::Config(file, u"xml"_s)) != "Tree \n");
+    }
+
+    void manyElementsSideBySide()
+    {
+        const QByteArray text = "<s>" + QByteArray("<t/>").repeated(1000) + "<u k='v'/></s>";
+        QCOMPARE(scanXml(text).fault, QString());
+        QCOMPARE(scanXml(text).statements.size(), std::size_t{2 + 2 * 1000 + 3});
+        const QString file = home.writeFile(u"tavolux.xml"_s, text);
+        QCOMPARE(libconfig::Config(file, u"xml"_s).lookup(u"s.u.k"_s), u"v"_s);
     }
 
     void kindsOfFile()

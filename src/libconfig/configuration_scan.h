@@ -15,6 +15,7 @@ struct Statement
         skippedText, // between a section's colon and its brace, or between its closing brace and the
                      // semicolon
         leftoverText, // belongs to nothing
+        remark, // a comment and the like, in an "xml" file
     };
 
     Kind kind;

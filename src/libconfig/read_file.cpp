@@ -1,0 +1,47 @@
+#include "read_file.h"
+
+#include "file_name.h"
+
+#include <QFile>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+FileContent readRegularFile(const QString &name)
+{
+    const QByteArray path = fileNameBytes(name);
+    struct stat status = {};
+    if (stat(path.constData(), &status) != 0) {
+        const int error = errno;
+        return {{}, qt_error_string(error), error == ENOENT};
+    }
+    if (!S_ISREG(status.st_mode))
+        return {{}, notRegularFile()};
+    // Should it become a FIFO meanwhile, nobody waits for it.
+    const int descriptor = open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) {
+        const int error = errno;
+        return {{}, qt_error_string(error)};
+    }
+    QFile file;
+    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    FileContent content{file.readAll()};
+    if (file.error() != QFileDevice::NoError)
+        content = {{}, file.errorString()};
+    return content;
+}
+
+bool isRegularFile(const QString &name)
+{
+    struct stat status = {};
+    return stat(fileNameBytes(name).constData(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+QString notRegularFile()
+{
+    return u"Not a regular file"_s;
+}
