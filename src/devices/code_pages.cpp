@@ -29,17 +29,18 @@ const NamedPage &named(CodePage page)
     return *std::ranges::find(namedPages, page, &NamedPage::page);
 }
 
-// What the toolkit's tables leave out.
-struct MissingCharacter
+// Where the toolkit's tables are not those of printers; 0 stands for no byte.
+struct Correction
 {
     CodePage page;
     char16_t character;
     quint8 byte;
 };
 
-constexpr MissingCharacter missingCharacters[] = {
+constexpr Correction corrections[] = {
     {CodePage::cp437, u'µ', 0xE6},
     {CodePage::cp852, u'¬', 0xAA},
+    {CodePage::cp1253, u'ª', 0},
 };
 
 } // namespace
@@ -63,8 +64,8 @@ CodePageEncoder::CodePageEncoder(CodePage page)
 
 quint8 CodePageEncoder::byte(char16_t character)
 {
-    for (const auto &[page, missing, byte] : missingCharacters)
-        if (page == m_page && missing == character)
+    for (const auto &[page, corrected, byte] : corrections)
+        if (page == m_page && corrected == character)
             return byte;
     if (!m_encoder)
         m_encoder.emplace(named(m_page).encoding, QStringConverter::Flag::Stateless);

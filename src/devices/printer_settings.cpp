@@ -189,8 +189,8 @@ PrinterSettings printerOfName(const TXConfiguration &configuration, const QStrin
         const QString value = configuration.getStrValue(key);
         const bool isMissingModel = value.isEmpty() && set == &setModel;
         if ((!value.isEmpty() || isMissingModel) && !set(settings, value))
-            printDiagnostic("Error in the setting " + shownFileName(key) + ": \"" + shownFileName(value)
-                            + "\" is not " + expected);
+            printDiagnostic("Error in the setting " + shownFileName(key) + "( " + shownFileName(value)
+                            + " ): not " + expected);
     }
     return settings;
 }

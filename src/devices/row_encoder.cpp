@@ -145,12 +145,7 @@ const RowEncoder::Glyphs &RowEncoder::characterGlyphs(char16_t character)
         return known;
     known = {.character = character};
     const QString text = QString(QChar(character)).normalized(QString::NormalizationForm_C);
-    if (append(known, text))
-        return known;
-    const auto *replacement = std::ranges::find(replacements, character, &Replacement::character);
-    if (replacement != std::end(replacements))
-        append(known, QString(replacement->ascii));
-    else if (!append(known, plainLetters(text)))
+    if (!append(known, text) && !append(known, plainLetters(text)))
         append(known, u'?');
     return known;
 }
@@ -180,22 +175,24 @@ bool RowEncoder::append(Glyphs &glyphs, char16_t character)
     const QChar::Category category = QChar::category(character);
     if (category == QChar::Other_Format) // takes no place in a line
         return true;
-    if (glyphs.count == Glyphs::most || category == QChar::Other_Control)
+    if (category == QChar::Other_Control)
         return false;
     if (category == QChar::Separator_Space)
         character = u' ';
 
-    Glyph &glyph = glyphs.columns[glyphs.count];
-    if (character < 0x80) {
-        glyph = {character, static_cast<quint8>(character), 0};
-        ++glyphs.count;
-        return true;
-    }
+    if (character < 0x80)
+        return append(glyphs, {character, static_cast<quint8>(character), 0});
     for (std::size_t page = 0; page < m_pages.size(); ++page)
-        if (const quint8 byte = m_pages[page].byte(character)) {
-            glyph = {character, byte, static_cast<quint8>(page)};
-            ++glyphs.count;
-            return true;
-        }
-    return false;
+        if (const quint8 byte = m_pages[page].byte(character))
+            return append(glyphs, {character, byte, static_cast<quint8>(page)});
+    const auto *replacement = std::ranges::find(replacements, character, &Replacement::character);
+    return replacement != std::end(replacements) && append(glyphs, QString(replacement->ascii));
+}
+
+bool RowEncoder::append(Glyphs &glyphs, Glyph glyph)
+{
+    if (glyphs.count == Glyphs::most)
+        return false;
+    glyphs.columns[glyphs.count++] = glyph;
+    return true;
 }

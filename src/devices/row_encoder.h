@@ -90,6 +90,7 @@ private:
     Glyphs clusterGlyphs(QStringView cluster);
 
     // Add what prints the text; false, and nothing added, when something in it cannot be printed.
+    static bool append(Glyphs &glyphs, Glyph glyph);
     bool append(Glyphs &glyphs, QStringView text);
     bool append(Glyphs &glyphs, char16_t character);
 
