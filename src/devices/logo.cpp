@@ -20,6 +20,8 @@ static_assert(PNG_LIBPNG_VER_SONUM == 16);
 
 namespace {
 
+constexpr QByteArrayView signature = "\x89PNG\r\n\x1A\n"; // of all PNG files
+
 constexpr qint64 largestFile = 4'000'000; // bytes
 constexpr unsigned int largestSide = 4096; // dots
 constexpr int highestLogo = 1024; // dots, some 13 cm of paper
@@ -180,6 +182,8 @@ Logo readLogo(const QString &file, int dots)
 {
     Logo logo;
     const QByteArray png = fileContents(file, logo.fault);
+    if (logo.fault.isEmpty() && !png.startsWith(signature))
+        logo.fault = u"it is no PNG file"_s;
     if (!logo.fault.isEmpty())
         return logo;
     const GreyPicture picture = decoded(png, logo.fault);

@@ -43,17 +43,18 @@ void CodePagesTest::agreesWithReference()
     const std::optional<CodePage> page = codePageOfName(QString::fromLatin1(name));
     QVERIFY(page);
     CodePageEncoder encoder(*page);
-    for (int code = 0xA0; code < 0x10000; ++code) { // below it are control characters, which nobody looks up
+    QStringList differing;
+    for (int code = 0xA0; code < 0x10000; ++code) { // below are control characters, which nobody looks up
         const auto character = static_cast<char16_t>(code);
-        if (name == "437"
-            && character == u'\u03BC') // the Greek letter, which looks like the sign that it has
-            continue;
         const auto place = std::ranges::find(reference->characters, character);
         const auto expected = place == reference->characters.end()
             ? quint8(0)
             : static_cast<quint8>(0x80 + (place - reference->characters.begin()));
-        QVERIFY2(encoder.byte(character) == expected, qPrintable(u"U+%1"_s.arg(code, 4, 16, QChar(u'0'))));
+        if (encoder.byte(character) != expected)
+            differing.append(u"U+%1"_s.arg(code, 4, 16, QChar(u'0')));
     }
+    // The Greek letter prints as the sign that looks like it.
+    QCOMPARE(differing, name == "437" ? QStringList(u"U+03bc"_s) : QStringList());
 }
 
 void CodePagesTest::names_data()
