@@ -213,10 +213,17 @@ void EscposPaper::usePage(quint8 page)
 
 void EscposPaper::printLine()
 {
-    for (const Cell &cell : m_encoder.encode(m_line)) {
-        use(cell.style);
-        usePage(cell.page);
-        m_bytes += static_cast<char>(cell.byte);
+    std::span<const Cell> cells = m_encoder.encode(m_line);
+    while (!cells.empty()) {
+        use(cells.front().style);
+        usePage(cells.front().page);
+        const auto isOther = [&](const Cell &cell) { return cell.style != m_style || cell.page != m_page; };
+        const auto length = static_cast<std::size_t>(std::ranges::find_if(cells, isOther) - cells.begin());
+        const qsizetype at = m_bytes.size();
+        m_bytes.resize(at + static_cast<qsizetype>(length));
+        std::ranges::transform(cells.first(length), m_bytes.data() + at,
+                               [](const Cell &cell) { return static_cast<char>(cell.byte); });
+        cells = cells.subspan(length);
     }
     m_line.clear();
 }

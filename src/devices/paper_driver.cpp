@@ -16,9 +16,11 @@ bool isControlCharacter(QChar character)
 
 bool hasControlCharacter(const QXmlAttributes &attributes)
 {
-    for (int i = 0; i < attributes.count(); ++i)
-        if (std::ranges::any_of(attributes.value(i), isControlCharacter))
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QString value = attributes.value(i); // not to be copied, as one that could be changed would be
+        if (std::ranges::any_of(value, isControlCharacter))
             return true;
+    }
     return false;
 }
 

@@ -40,6 +40,28 @@ bool isControl(char16_t character)
     return character < 0x20 || (character >= 0x7F && character < 0xA0);
 }
 
+bool isPlainAscii(QChar character)
+{
+    return character >= QChar(0x20) && character < QChar(0x7F);
+}
+
+// How many characters at the beginning of the text are printed as they stand.
+qsizetype asciiLength(QStringView text)
+{
+    return std::ranges::find_if_not(text, isPlainAscii) - text.begin();
+}
+
+// How many dots or blanks, with which a row fills its columns, there are at the beginning of the text. A dot
+// by itself is the text's own, as in a price.
+qsizetype fillLength(QStringView text)
+{
+    if (text.front() != u' ' && text.front() != u'.')
+        return 0;
+    const qsizetype length =
+        std::ranges::find_if(text, [&](QChar c) { return c != text.front(); }) - text.begin();
+    return text.front() == u' ' || length > 1 ? length : 0;
+}
+
 QString withoutMarks(QString text)
 {
     return text.removeIf([](QChar c) { return c.isMark(); });
@@ -75,51 +97,43 @@ RowEncoder::RowEncoder(std::span<const CodePage> pages)
 
 std::span<const Cell> RowEncoder::encode(const StyledLine &line)
 {
-    const QString &text = line.text();
+    const QStringView text = line.text();
     std::optional<QTextBoundaryFinder> clusters;
     if (!std::ranges::all_of(text, standsAlone))
-        clusters.emplace(QTextBoundaryFinder::Grapheme, text);
+        clusters.emplace(QTextBoundaryFinder::Grapheme, line.text());
 
     m_cells.clear();
     qsizetype missing = 0; // columns that the layout counted and the cells so far do not fill
     qsizetype begin = 0;
     for (const auto &[runEnd, style] : line.runs()) {
         while (begin < runEnd) {
-            const char16_t character = text[begin].unicode();
-            qsizetype end = begin + 1;
-            if (missing != 0 && (character == u' ' || character == u'.')) {
-                while (end < runEnd && text[end] == character)
-                    ++end;
-                const qsizetype length = end - begin;
-                // A dot by itself is the text's own, as in a price.
-                if (character == u' ' || length > 1) {
-                    const qsizetype filled = std::max<qsizetype>(length + missing, 1);
-                    missing -= filled - length;
-                    m_cells.insert(m_cells.end(), static_cast<std::size_t>(filled),
-                                   {character, static_cast<quint8>(character), 0, style});
-                    begin = end;
-                    continue;
+            const QStringView rest = text.sliced(begin, runEnd - begin);
+            if (const qsizetype fill = missing == 0 ? 0 : fillLength(rest); fill > 0) {
+                const qsizetype filled = std::max<qsizetype>(fill + missing, 1);
+                const char16_t character = rest.front().unicode();
+                m_cells.insert(m_cells.end(), static_cast<std::size_t>(filled),
+                               {character, static_cast<quint8>(character), 0, style});
+                missing -= filled - fill;
+                begin += fill;
+            } else if (const qsizetype ascii = clusters || missing != 0 ? 0 : asciiLength(rest); ascii > 0) {
+                std::ranges::transform(rest.first(ascii), std::back_inserter(m_cells), [style](QChar c) {
+                    return Cell{c.unicode(), static_cast<quint8>(c.unicode()), 0, style};
+                });
+                begin += ascii;
+            } else {
+                const char16_t character = rest.front().unicode();
+                qsizetype end = begin + 1;
+                if (clusters && !isControl(character)) {
+                    clusters->setPosition(begin);
+                    end = clusters->toNextBoundary();
                 }
-                end = begin + 1;
-            }
-
-            if (clusters && !isControl(character)) {
-                clusters->setPosition(begin);
-                end = clusters->toNextBoundary();
-            } else if (character >= 0x20 && character < 0x7F) {
-                m_cells.push_back({character, static_cast<quint8>(character), 0, style});
+                const Glyphs glyphs = end - begin == 1 ? characterGlyphs(character)
+                                                       : clusterGlyphs(text.sliced(begin, end - begin));
+                for (const auto &[shown, byte, page] : std::span(glyphs.columns).first(glyphs.count))
+                    m_cells.push_back({shown, byte, page, style});
+                missing += end - begin - glyphs.count;
                 begin = end;
-                continue;
             }
-            const Glyphs glyphs = end - begin == 1
-                ? characterGlyphs(character)
-                : clusterGlyphs(QStringView(text).sliced(begin, end - begin));
-            for (int i = 0; i < glyphs.count; ++i) {
-                const auto &[shown, byte, page] = glyphs.columns[static_cast<std::size_t>(i)];
-                m_cells.push_back({shown, byte, page, style});
-            }
-            missing += end - begin - glyphs.count;
-            begin = end;
         }
     }
     return m_cells;
