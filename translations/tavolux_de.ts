@@ -195,5 +195,9 @@
         <source>CUSTOMER</source>
         <translation>KUNDE</translation>
     </message>
+    <message>
+        <source>*** INCOMPLETE ***</source>
+        <translation>*** UNVOLLSTÄNDIG ***</translation>
+    </message>
 </context>
 </TS>

@@ -195,5 +195,9 @@
         <source>CUSTOMER</source>
         <translation>CLIENT</translation>
     </message>
+    <message>
+        <source>*** INCOMPLETE ***</source>
+        <translation>*** INCOMPLET ***</translation>
+    </message>
 </context>
 </TS>

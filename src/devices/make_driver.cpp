@@ -1,10 +1,16 @@
 #include "make_driver.h"
 
 #include "company_printer_driver.h"
+#include "escpos_paper.h"
 #include "print_output.h"
+#include "printer_settings.h"
 
 std::unique_ptr<PrinterDriver> makeDriver(const TXConfiguration &configuration,
                                           std::unique_ptr<PrintOutput> output)
 {
+    if (const std::optional<PrinterSettings> printer = printerForOutput(configuration, output->name());
+        printer && !printer->model->isPlainText())
+        return std::make_unique<PaperDriver>(configuration, std::move(output),
+                                             std::make_unique<EscposPaper>(*printer));
     return std::make_unique<CompanyPrinterDriver>(configuration, std::move(output));
 }

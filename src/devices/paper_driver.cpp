@@ -11,14 +11,16 @@ namespace {
 
 bool isControlCharacter(QChar character)
 {
-    return character.category() == QChar::Other_Control;
+    return character < QChar(0x20) || (character >= QChar(0x7F) && character < QChar(0xA0));
 }
 
 bool hasControlCharacter(const QXmlAttributes &attributes)
 {
-    for (int i = 0; i < attributes.count(); ++i)
-        if (std::ranges::any_of(attributes.value(i), isControlCharacter))
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QString value = attributes.value(i); // not to be copied, as one that could be changed would be
+        if (std::ranges::any_of(value, isControlCharacter))
             return true;
+    }
     return false;
 }
 
@@ -99,13 +101,13 @@ void PaperDriver::setCenterJustify()
 void PaperDriver::print(unsigned int indent, const QString &text)
 {
     Paper &paper = begunPaper();
-    const qsizetype width = lineWidth();
-    const qsizetype textWidth = paper.width(text);
-    qsizetype blanks = justification == Justification::center ? (width - textWidth) / 2 : indent;
-    if (width < textWidth)
-        blanks = 0;
-    if (blanks > 0)
-        paper.text(QString(blanks, u' '), m_style);
+    const bool isCentred = justification == Justification::center;
+    if (isCentred || indent > 0) {
+        const qsizetype left = qsizetype(lineWidth()) - paper.width(text);
+        const qsizetype blanks = left < 0 ? 0 : isCentred ? left / 2 : indent;
+        if (blanks > 0)
+            paper.text(QString(blanks, u' '), m_style);
+    }
 
     QStringView rest = text;
     for (qsizetype end = rest.indexOf(u'\n'); end >= 0; end = rest.indexOf(u'\n')) {

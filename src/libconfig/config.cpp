@@ -68,6 +68,19 @@ QStringList numberedNames(const QDomNamedNodeMap &attributes)
     return names;
 }
 
+void collectSectionNames(const QDomNode &node, QStringView key, QStringList &names)
+{
+    const QDomElement section = node.toElement();
+    if (section.isNull() || head(key) != section.tagName())
+        return;
+    const QStringView rest = tail(key);
+    for (QDomElement child = section.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        if (!rest.isEmpty())
+            collectSectionNames(child, rest, names);
+        else if (!names.contains(child.tagName()))
+            names.append(child.tagName());
+}
+
 } // namespace
 
 Config::Config() = default;
@@ -167,6 +180,13 @@ QString Config::lookup(const QString &key) const
 QString Config::lookup(const QDomNode &node, const QString &key) const
 {
     return valueBelow(node, key);
+}
+
+QStringList Config::sectionNames(const QString &key) const
+{
+    QStringList names;
+    collectSectionNames(rootElement().firstChild(), key, names);
+    return names;
 }
 
 } // namespace libconfig

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QString>
 #include <QStringConverter>
+#include <QStringList>
 
 #include <fstream>
 #include <istream>
@@ -64,6 +65,10 @@ public:
     /* The same below a node, which the key's first component names. Among sections of one name the first that
      * yields a value that is not empty wins. */
     QString lookup(const QDomNode &node, const QString &key) const;
+
+    /* The names of the sections below the one that the dotted key names, each once, in the order of the file.
+     * Of several sections of that name all count. */
+    QStringList sectionNames(const QString &key) const;
 
     /* Writes the root's settings and the first top-level section to the named file, or over the file that was
      * read when the name is empty, as "cfg" text (in Latin-1, as it is read) or as XML (in UTF-8). Values are

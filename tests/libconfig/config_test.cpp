@@ -166,6 +166,32 @@ private Q_SLOTS:
         QCOMPARE(config.lookup(document, u"s.k"_s), QString());
         QCOMPARE(config.lookup(QDomNode(), u"s.k"_s), QString());
     }
+
+    void sectionNames_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QStringList>("names");
+        QTest::newRow("in the order of the file") << u"s.t"_s << QStringList({u"z"_s, u"a"_s, u"b"_s});
+        QTest::newRow("of the outermost section") << u"s"_s << QStringList({u"t"_s, u"u"_s});
+        QTest::newRow("deeper") << u"s.t.a"_s << QStringList(u"deep"_s);
+        QTest::newRow("a section without any") << u"s.u"_s << QStringList();
+        QTest::newRow("a setting") << u"s.k"_s << QStringList();
+        QTest::newRow("a section that is not there") << u"s.v"_s << QStringList();
+        QTest::newRow("another outermost section") << u"other"_s << QStringList();
+        QTest::newRow("empty key") << QString() << QStringList();
+    }
+
+    void sectionNames()
+    {
+        QFETCH(const QString, key);
+        const TemporaryHome home;
+        const QString file = home.writeFile(u"conf"_s,
+                                            "s : { k = v; t : { z : { k = v; }; a : { deep : { k = v; }; }; };"
+                                            " u : { k = v; }; t : { a : { k = v; }; b : { k = v; }; }; };"
+                                            "other : { c : { k = v; }; };");
+        QTEST(libconfig::Config(file, u"cfg"_s).sectionNames(key), "names");
+        QCOMPARE(libconfig::Config().sectionNames(key), QStringList());
+    }
 };
 
 QTEST_GUILESS_MAIN(ConfigTest)

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "printer_models.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+class TXConfiguration;
+
+/* How long the drawer's magnet is on, and then off at least. */
+struct DrawerPulse
+{
+    int onMilliseconds = 50;
+    int offMilliseconds = 500;
+
+    bool operator==(const DrawerPulse &) const = default;
+};
+
+/* A printer as the user's configuration has it: what a section of tavolux.printers says, and else its model.
+ */
+struct PrinterSettings
+{
+    /* A printer as it leaves the factory. */
+    explicit PrinterSettings(const PrinterModel &printerModel = plainTextModel());
+
+    /* The code pages without their numbers. */
+    std::vector<CodePage> pages() const;
+
+    QString name; // of the section; empty for a bare model
+    QStringList outputs; // the names and shell patterns of the outputs that it prints
+    const PrinterModel *model;
+    int columns;
+    QList<NumberedPage> codePages; // in order of preference
+    Cutter cut;
+    int feed; // lines before the cut or the tear bar
+    int drawerPin = 2;
+    DrawerPulse drawerPulse;
+    QString logoFile; // a PNG file; empty for none
+    int storedLogo = 0; // the number of a logo kept in the printer, 0 for none
+    bool duplicate = false; // a document that is to be printed twice is
+};
+
+/* A setting of a printer. */
+struct PrinterSetting
+{
+    QLatin1StringView name; // in the configuration
+    const char *expected; // what it takes, in English: "a number from 1 to 255"
+
+    /* Sets what the text of the configuration says; false, and nothing set, when that is not what is
+     * expected.
+     */
+    bool (*set)(PrinterSettings &settings, const QString &value);
+};
+
+// In the order in which they are read: the model first, which the others override.
+extern const std::span<const PrinterSetting> printerSettings;
+
+/* The key prefix of all printers' sections, and the names of those sections. */
+inline constexpr QLatin1StringView printersKey{"tavolux.printers"};
+QStringList printerNames(const TXConfiguration &configuration);
+
+/* The printer of a section. One line is printed on standard output for each value that is not what is
+ * expected: the model's value stays and, without a model that is known, the printer is the plain-text one. */
+PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name);
+
+/* The printer of the first section whose outputs fit the path, as it stands or as it is when all links are
+ * followed; none without such a section. */
+std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configuration, const QString &path);
