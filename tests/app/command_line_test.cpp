@@ -239,6 +239,38 @@ private Q_SLOTS:
         QCOMPARE(bytes, printedReceipt);
     }
 
+    // Opened again by its name, the file of standard output is emptied, and written from its start.
+    void standardOutputIsAFile_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("emptied by the shell") << O_TRUNC;
+        QTest::newRow("added to by the shell") << O_APPEND;
+    }
+
+    void standardOutputIsAFile()
+    {
+        QFETCH(const int, mode);
+        const TemporaryHome home;
+        home.writeConfiguration(configuration);
+        const QByteArray file =
+            QFile::encodeName(home.writeFile(u"printout.txt"_s, "of an earlier document"));
+        const auto redirect = [&] {
+            if (dup2(open(file.constData(), O_WRONLY | mode), STDOUT_FILENO) < 0)
+                _exit(127);
+        };
+        QCOMPARE(
+            messagesOf(home, {home.writeFile(u"document.xml"_s, receipt), u"/dev/stdout"_s}, {}, redirect),
+            "");
+        QCOMPARE(fileBytes(QFile::decodeName(file)), printedReceipt);
+    }
+
+    void standardOutputIsAPipe()
+    {
+        const TemporaryHome home;
+        QCOMPARE(messagesOf(home, {home.writeFile(u"document.xml"_s, receipt), u"/dev/stdout"_s}),
+                 missingConfiguration(home) + " Serial Number: 17\n" + QByteArray(34, '=') + '\n');
+    }
+
     void documentComesFromAFifo()
     {
         const TemporaryHome home;

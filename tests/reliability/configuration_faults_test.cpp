@@ -103,6 +103,11 @@ private Q_SLOTS:
             << "tavolux : " + megabyte + "{ doc : { " + settings + " }; };" << printed;
         QTest::newRow("value without an end") << before + " k = " + megabyte << printed;
         QTest::newRow("sections without an end") << before << printed;
+        QTest::newRow("half of it, up to a name") << "tavolux : { doc : { quantityFieldWidth = 3; paperWi"_ba
+                                                  << "  1 Pasta" + QByteArray(34 - 3 - 3 - 5, ' ') + '\n';
+        QTest::newRow("half of it, up to the first digit of a number")
+            << "tavolux : { doc : { quantityFieldWidth = 3; paperWidth = 2"_ba
+            << "  1 \n"_ba;
 
         // Below 256 levels reading ends.
         QTest::newRow("253 levels below two, then the settings")

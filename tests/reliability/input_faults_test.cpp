@@ -473,6 +473,9 @@ private Q_SLOTS:
         QTest::newRow("bytes that no UTF-8 has")
             << latin(u"UTF-8"_s, "a\xFF\xC0z") << "a\xEF\xBF\xBD\xEF\xBF\xBDz"_ba;
         QTest::newRow("NUL in a name") << latin(u"UTF-8"_s, "a\0z"_ba) << "a\0z"_ba;
+        QTest::newRow("escape and bell in a name") << latin(u"UTF-8"_s, "a\x1Bp0\az") << "a\x1Bp0\az"_ba;
+        QTest::newRow("escape and line feed as references")
+            << latin(u"UTF-8"_s, "a&#27;p0&#10;z") << "a\x1Bp0\nz"_ba;
         QTest::newRow("NUL before the document")
             << QByteArray(1, '\0') + document(item(1, "Pasta")) << QByteArray();
     }

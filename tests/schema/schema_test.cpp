@@ -60,6 +60,8 @@ void SchemaTest::accepts_data()
     QTest::newRow("root of a known name") << R"(<order><method name="printFullOrder"/><order/></order>)"_ba;
     QTest::newRow("header block among the rows")
         << R"(<d><method name="printSold"/><sold><receipe quantity="1" description="a" amount="1"/><logo/></sold></d>)"_ba;
+    QTest::newRow("customer among the rows")
+        << R"(<d><method name="printFullOrder"/><order><receipe number="1" name="a"/><customer name="b"/></order></d>)"_ba;
     QTest::newRow("total before the items")
         << R"(<d><method name="printFullOrder"/><order><total price="1"/><receipe number="1" name="a"/></order></d>)"_ba;
     QTest::newRow("several orders") << R"(<d><method name="printFullOrder"/><order/><order/></d>)"_ba;
@@ -107,6 +109,8 @@ void SchemaTest::refuses_data()
     // Blocks
     row("misspelt block", "full-receipt", "<geometry/>", "<geometri/>", "geometri");
     row("block in the wrong case", "full-receipt", "<orderinfo", "<orderInfo", "orderInfo");
+    row("block behind the rows", "sold-items", "</document>", "<logo/></document>", "logo");
+    row("block between two groups", "full-order", "</document>", "<logo/><order/></document>", "logo");
     row("attribute of an empty block", "full-order", "<logo/>", R"(<logo file="logo.png"/>)", "logo");
     row("printer without a name", "full-order", R"(<printers name="Cassa"/>)", "<printers/>", "printers");
     row("misspelt order information", "statement-of-account", "waiter=", "waitress=", "orderinfo");
