@@ -77,7 +77,11 @@ SimulatedPrinter::SimulatedPrinter(Connection connection)
 
 SimulatedPrinter::~SimulatedPrinter()
 {
-    set([this](Condition &) { m_ending = true; });
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ending = true;
+        wakeUp();
+    }
     m_thread.join();
     for (const int descriptor : {m_wakeReader, m_wakeWriter, m_listener, m_line, m_deviceKeptOpen})
         if (descriptor >= 0)
@@ -92,8 +96,15 @@ QString SimulatedPrinter::uri() const
 
 void SimulatedPrinter::set(const std::function<void(Condition &)> &change)
 {
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     change(m_condition);
+    m_changeTaken = false;
+    wakeUp();
+    m_changed.wait(lock, [this] { return m_changeTaken; });
+}
+
+void SimulatedPrinter::wakeUp() const
+{
     require(write(m_wakeWriter, "", 1) == 1, "wake up");
 }
 
@@ -116,6 +127,7 @@ void SimulatedPrinter::run()
         updateConnection();
         printBuffer();
         m_log.connected = m_line >= 0;
+        m_changeTaken = true;
         m_changed.notify_all();
 
         const short reading = m_condition.reads ? POLLIN : 0;

@@ -55,6 +55,7 @@ public:
     /* The address of a queue that prints on it. */
     QString uri() const;
 
+    /* Changes the condition; in force when it returns. */
     void set(const std::function<void(Condition &)> &change);
 
     PrinterLog log() const;
@@ -64,6 +65,7 @@ public:
 
 private:
     void run();
+    void wakeUp() const;
     void updateConnection();
     void acceptConnection();
     void endConnection(bool reset);
@@ -84,6 +86,7 @@ private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_changed;
     Condition m_condition;
+    bool m_changeTaken = true;
     PrinterLog m_log;
     QByteArray m_job; // printed and not yet confirmed
     QByteArray m_arrived; // not yet searched for queries in real time
