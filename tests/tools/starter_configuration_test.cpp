@@ -83,26 +83,76 @@ private Q_SLOTS:
             QFAIL(qPrintable(QString::number(finding.line) + ": "_L1 + finding.text));
     }
 
-    void widthsFor80MillimetrePaper()
+    void widthsByPaper_data()
     {
+        QTest::addColumn<int>("paperWidth");
+        QTest::addColumn<QString>("price");
+        QTest::addColumn<QString>("total");
+        // Two blanks before 100.00, 1000.00 and so on, the more the wider the paper.
+        QTest::newRow("58 mm") << 32 << u"7"_s << u"7"_s;
+        QTest::newRow("76 mm") << 40 << u"8"_s << u"8"_s;
+        QTest::newRow("80 mm") << 42 << u"8"_s << u"9"_s;
+        QTest::newRow("80 mm, small type") << 48 << u"9"_s << u"10"_s;
+    }
+    void widthsByPaper()
+    {
+        QFETCH(const int, paperWidth);
         const TemporaryHome home;
-        const TXConfiguration configuration(home.writeFile(u"tavolux.conf"_s, starterConfiguration(42)),
-                                            u"cfg"_s);
-        QCOMPARE(configuration.getStrValue(u"tavolux.receiptdoc.quantityFieldWidth"_s), u"3"_s);
-        QCOMPARE(configuration.getStrValue(u"tavolux.receiptdoc.priceFieldWidth"_s), u"8"_s);
-        QCOMPARE(configuration.getStrValue(u"tavolux.receiptdoc.totalPriceFieldWidth"_s), u"9"_s);
+        const TXConfiguration configuration(
+            home.writeFile(u"tavolux.conf"_s, starterConfiguration(paperWidth)), u"cfg"_s);
+        for (const QString &profile : profiles) {
+            const auto value = [&](const QString &setting) {
+                return configuration.getStrValue("tavolux."_L1 + profile + u'.' + setting);
+            };
+            QCOMPARE(value(u"quantityFieldWidth"_s), u"3"_s);
+            QTEST(value(u"priceFieldWidth"_s), "price");
+            QTEST(value(u"totalPriceFieldWidth"_s), "total");
+            QCOMPARE(value(u"paperRows"_s), u"0"_s);
+            QCOMPARE(value(u"topMargin"_s), u"0"_s);
+        }
     }
 
-    void theDrawerOpensWhereMoneyIsTaken()
+    // On every paper: what a person expects at the top of each kind of document.
+    void switchesByDocument_data()
     {
-        const TemporaryHome home;
-        const TXConfiguration configuration(home.writeFile(u"tavolux.conf"_s, starterConfiguration(42)),
-                                            u"cfg"_s);
-        QStringList open;
-        for (const QString &profile : profiles)
-            if (configuration.getStrValue("tavolux."_L1 + profile + ".openCashDrawer"_L1) == "true"_L1)
-                open.append(profile);
-        QCOMPARE(open, (QStringList{u"fiscaldoc"_s, u"receiptdoc"_s, u"invoicedoc"_s}));
+        QTest::addColumn<QString>("profile");
+        QTest::addColumn<QStringList>("on"); // beside those that all have on
+        QTest::newRow("kitchen ticket")
+            << u"doc"_s << QStringList{u"printTable"_s, u"printWaiter"_s, u"printNote"_s};
+        QTest::newRow("bill") << u"prefiscaldoc"_s
+                              << QStringList{u"printCompany"_s, u"printTable"_s, u"printWaiter"_s};
+        QTest::newRow("fiscal document") << u"fiscaldoc"_s << QStringList{u"openCashDrawer"_s};
+        QTest::newRow("receipt") << u"receiptdoc"_s
+                                 << QStringList{u"printCompany"_s, u"printTable"_s, u"printWaiter"_s,
+                                                u"openCashDrawer"_s};
+        QTest::newRow("invoice") << u"invoicedoc"_s
+                                 << QStringList{u"printCompany"_s,       u"printCustomer"_s,
+                                                u"printTelephone"_s,     u"printBillingAddress"_s,
+                                                u"printLicenseNumber"_s, u"printFiscalCode"_s,
+                                                u"openCashDrawer"_s};
+        QTest::newRow("delivery") << u"deliverydoc"_s
+                                  << QStringList{u"printNote"_s, u"printCustomer"_s, u"printTelephone"_s,
+                                                 u"printDeliveryAddress"_s};
+        QTest::newRow("report") << u"reportdoc"_s << QStringList{u"printCompany"_s};
+        QTest::newRow("sold items") << u"solddoc"_s << QStringList();
+    }
+    void switchesByDocument()
+    {
+        QFETCH(const QString, profile);
+        QFETCH(QStringList, on);
+        on << u"printGeometry"_s << u"printHeader"_s << u"printDate"_s << u"printTime"_s;
+        on.sort();
+        for (const int paperWidth : starterPaperWidths()) {
+            const TemporaryHome home;
+            const TXConfiguration configuration(
+                home.writeFile(u"tavolux.conf"_s, starterConfiguration(paperWidth)), u"cfg"_s);
+            QStringList found;
+            for (const QString &name : switches)
+                if (configuration.getStrValue("tavolux."_L1 + profile + u'.' + name) == "true"_L1)
+                    found.append(name);
+            found.sort();
+            QCOMPARE(found, on);
+        }
     }
 };
 
