@@ -80,7 +80,7 @@ void Config::loadStatements()
 {
     const QDomElement root = newRootElement();
     const bool endedByBrace = readStatements(root, *m_document);
-    if (!endedByBrace) // Deliberate: behind a brace that closes no section the stream stays open.
+    if (!endedByBrace) // Deliberate: after a brace that closes no section the stream stays open.
         closeFile();
 }
 

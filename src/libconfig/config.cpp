@@ -10,7 +10,7 @@ namespace libconfig {
 
 namespace {
 
-// A dotted key's first component, and what follows the dot behind it.
+// A dotted key's first component, and what follows the dot after it.
 QStringView head(QStringView key)
 {
     const qsizetype dot = key.indexOf(u'.');

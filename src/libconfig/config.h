@@ -31,7 +31,8 @@ namespace libconfig {
 class Config
 {
 public:
-    /* Sections (elements in the "xml" kind) nested deeper than this are not read. */
+    /* How deep sections may nest. In the "cfg" kind reading ends at one deeper; of an "xml" file with a
+     * deeper element nothing is read. */
     static constexpr int maximumNesting = 256;
 
     /* An empty store: every lookup yields the empty text. */
@@ -81,7 +82,7 @@ public:
     QByteArray cfgText() const;
     QByteArray xmlText() const;
 
-    /* Writes one section with all below it, each line behind the indentation. */
+    /* Writes one section with all below it, each line after the indentation. */
     void buildConfigFile(const QDomNode &node, QTextStream &stream, const QString &indentation = {}) const;
     void buildConfigXmlFile(const QDomNode &node, QTextStream &stream, const QString &indentation = {}) const;
 
@@ -115,7 +116,7 @@ protected:
     bool openFile();
     void closeFile();
 
-    /* Skips forward to just behind the next c; false at the end of the file. */
+    /* Skips forward to just after the next c; false at the end of the file. */
     bool jump(char c);
 
     /* The "cfg" reader for the whole file and for the body of one section. */

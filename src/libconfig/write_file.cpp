@@ -120,7 +120,7 @@ private:
     int m_error;
 };
 
-path behindLinks(path name)
+path withoutLinks(path name)
 {
     constexpr int mostLinks = 40; // as for the system, which then refuses the name
     std::error_code error;
@@ -144,7 +144,7 @@ WriteResult writeAsItStands(const QString &name, QByteArrayView bytes)
 
 WriteResult replaceFile(const QString &name, QByteArrayView bytes)
 {
-    const path target = behindLinks(pathOf(name));
+    const path target = withoutLinks(pathOf(name));
     struct stat old = {};
     const bool exists = stat(target.c_str(), &old) == 0;
     if (!exists && errno != ENOENT)

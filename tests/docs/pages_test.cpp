@@ -8,6 +8,7 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStandardPaths>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -185,6 +186,8 @@ void PagesTest::passesTheSchema_data()
 void PagesTest::passesTheSchema()
 {
     QFETCH(const QString, document);
+    if (QStandardPaths::findExecutable(u"xmllint"_s).isEmpty())
+        QSKIP("xmllint is not installed (scripts/setup installs it)");
 
     const TemporaryHome home;
     const ProgramResult run =

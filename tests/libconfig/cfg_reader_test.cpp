@@ -67,7 +67,7 @@ private Q_SLOTS:
         };
         row("top-level setting", "a = 1;", "a = 1\n");
         row("top-level setting and a section", "a = 1;\ns : { k = v; };", "a = 1\ns\nk = v\n");
-        row("top-level setting behind a section", "s : { k = v; };\na = 1;", "a = 1\ns\nk = v\n");
+        row("top-level setting after a section", "s : { k = v; };\na = 1;", "a = 1\ns\nk = v\n");
         row("everything on one line", "s:{k=v;t:{l=w;};};", "s\nk = v\nt\nl = w\n");
         row("a line for each part", "s\n:\n{\nk\n=\nv\n;\n}\n;\n", "s\nk = v\n");
         row("tabs and line ends of another system", "\ts :\r\n{\r\n\tk = v ;\r\n} ;\r\n", "s\nk = v\n");
@@ -90,7 +90,7 @@ private Q_SLOTS:
         row("semicolon inside a name", "s : { ;k = v; };", "s\n;k = v\n");
         row("comment is none", "# about s\ns : { k = v; };", "# about s\ns\nk = v\n");
         row("text between statements", "s : { k = v; more l = w; };", "s\nk = v\nmore l = w\n");
-        row("text behind a section joins the next name", "s:{k=v;};x\nt:{l=w;};", "s\nk = v\nx\nt\nl = w\n");
+        row("text after a section joins the next name", "s:{k=v;};x\nt:{l=w;};", "s\nk = v\nx\nt\nl = w\n");
         row("text at the end of a section is dropped", "s : { k = v; text }; t : { l = w; };",
             "s\nk = v\nt\nl = w\n");
         row("text at the end of the file is dropped", "s : { k = v; }; text", "s\nk = v\n");
@@ -101,8 +101,8 @@ private Q_SLOTS:
         row("missing semicolon of a value", "s : { k = v\n l = w; };", "s\nk = v\n l = w\n");
         row("missing semicolon of the last value", "s : { k = v };", "s\nk = v }\n");
         row("value up to the end of the file", "s : { k = v", "s\nk = v\n");
-        row("value without anything behind the sign", "s : { k =", "s\nk = \n");
-        row("missing brace behind a colon", "s : k = v; };", "");
+        row("value without anything after the sign", "s : { k =", "s\nk = \n");
+        row("missing brace after a colon", "s : k = v; };", "");
         row("missing brace takes the next one", "s : k = v; t : { l = w; };", "s\nl = w\n");
         row("missing brace in a section", "s : { k = v; t : l = w; }; u = 1;", "s\nk = v\n");
         row("missing closing braces", "s : { t : { k = v;", "s\nt\nk = v\n");
@@ -172,9 +172,9 @@ private Q_SLOTS:
         row("no-break space is white space", "\xA0v\xA0", u"v"_s);
         row("control bytes", QByteArray("\x1B\x7F\x80"), u"\u001B\u007F\u0080"_s);
         row("NUL", QByteArray("a\0b", 3), QString::fromLatin1("a\0b", 3));
-        row("the end-of-file byte of old", QByteArray("a\x1A") + "b", u"a\u001Ab"_s);
-        row("as long as the buffers of old", QByteArray(2048, 'v'), u"v"_s.repeated(2048));
-        row("longer than the buffers of old", QByteArray(2049, 'v'), u"v"_s.repeated(2049));
+        row("a byte that some systems end files with", QByteArray("a\x1A") + "b", u"a\u001Ab"_s);
+        row("2,048 characters", QByteArray(2048, 'v'), u"v"_s.repeated(2048));
+        row("2,049 characters", QByteArray(2049, 'v'), u"v"_s.repeated(2049));
         row("1 MB", QByteArray(1 << 20, 'v'), u"v"_s.repeated(1 << 20));
     }
 
@@ -217,7 +217,7 @@ private Q_SLOTS:
         QTest::newRow("no XML name") << QByteArray("1 <&/> 2") << u"1 <&/> 2"_s;
         QTest::newRow("NUL") << QByteArray("a\0b", 3) << QString::fromLatin1("a\0b", 3);
         QTest::newRow("no-break space around") << QByteArray("\xA0n\xA0") << u"n"_s;
-        QTest::newRow("longer than the buffers of old") << QByteArray(2049, 'n') << u"n"_s.repeated(2049);
+        QTest::newRow("2,049 characters") << QByteArray(2049, 'n') << u"n"_s.repeated(2049);
         QTest::newRow("1 MB") << QByteArray(1 << 20, 'n') << u"n"_s.repeated(1 << 20);
     }
 

@@ -40,12 +40,12 @@ private Q_SLOTS:
         row("part of a name", example, u"tavolux.do.paperWidth"_s, {});
         row("key without its first component", example, u"doc.paperWidth"_s, {});
         row("key that ends at a section", example, u"tavolux.doc"_s, {});
-        row("key that goes on behind a setting", example, u"tavolux.doc.paperWidth.unit"_s, {});
+        row("key that goes on after a setting", example, u"tavolux.doc.paperWidth.unit"_s, {});
         row("empty key", example, {}, {});
         row("only a dot", example, u"."_s, {});
         row("leading dot", example, u".tavolux.doc.paperWidth"_s, {});
-        row("dot behind a setting", example, u"tavolux.doc.paperWidth."_s, u"40"_s);
-        row("two dots behind a setting", example, u"tavolux.doc.paperWidth.."_s, u"40"_s);
+        row("dot after a setting", example, u"tavolux.doc.paperWidth."_s, u"40"_s);
+        row("two dots after a setting", example, u"tavolux.doc.paperWidth.."_s, u"40"_s);
 
         row("two components", "s : { k = v; };", u"s.k"_s, u"v"_s);
         row("two components and a dot", "s : { k = v; };", u"s.k."_s, u"v"_s);
@@ -61,9 +61,9 @@ private Q_SLOTS:
 
         row("empty value", "s : { k = \"\"; };", u"s.k"_s, {});
         row("setting outside of sections", "a = 1; s : { k = v; };", u"a"_s, {});
-        row("setting outside of sections behind a dot", "a = 1; s : { k = v; };", u".a"_s, {});
+        row("setting outside of sections after a dot", "a = 1; s : { k = v; };", u".a"_s, {});
         row("setting outside of sections as one of a section", "a = 1; s : { k = v; };", u"s.a"_s, {});
-        row("section behind a setting", "a = 1; s : { k = v; };", u"s.k"_s, u"v"_s);
+        row("section after a setting", "a = 1; s : { k = v; };", u"s.k"_s, u"v"_s);
 
         row("first of two top-level sections", "s : { k = v; }; t : { k = w; };", u"s.k"_s, u"v"_s);
         row("second of two top-level sections", "s : { k = v; }; t : { k = w; };", u"t.k"_s, {});
@@ -103,8 +103,8 @@ private Q_SLOTS:
         QTest::newRow("no kind") << cfg << QString() << QString();
         QTest::newRow("cfg in capitals") << cfg << u"CFG"_s << QString();
         QTest::newRow("xml in capitals") << xml << u"Xml"_s << QString();
-        QTest::newRow("blank behind the kind") << cfg << u"cfg "_s << QString();
-        QTest::newRow("blank behind the other kind") << xml << u"xml "_s << QString();
+        QTest::newRow("blank after the kind") << cfg << u"cfg "_s << QString();
+        QTest::newRow("blank after the other kind") << xml << u"xml "_s << QString();
     }
 
     void kind()

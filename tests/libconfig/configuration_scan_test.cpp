@@ -180,14 +180,14 @@ private Q_SLOTS:
             << QByteArray("s : k = v;") << QStringList{u"1 begin <s> incomplete"_s, u"1 skipped <k = v;>"_s};
         QTest::newRow("text before the brace")
             << QByteArray("s :\nx y { };") << QStringList{u"1 begin <s>"_s, u"2 skipped <x y>"_s, u"2 end"_s};
-        QTest::newRow("text behind the brace")
+        QTest::newRow("text after the brace")
             << QByteArray("s : { }\nt : { k = v; };")
             << QStringList{u"1 begin <s>"_s, u"1 end"_s, u"2 skipped <t : { k = v>"_s, u"2 end"_s};
         QTest::newRow("text before a closing brace")
             << QByteArray("s : { k = v; x };")
             << QStringList{u"1 begin <s>"_s, u"1 set <k> <v>"_s, u"1 leftover <x>"_s, u"1 end"_s};
         QTest::newRow("text at the end") << QByteArray("\nx\n") << QStringList{u"2 leftover <x>"_s};
-        QTest::newRow("nothing is read behind a brace too many")
+        QTest::newRow("nothing is read after a brace too many")
             << QByteArray("} x; k = v;") << QStringList{u"1 end"_s, u"1 skipped <x>"_s};
         QTest::newRow("a byte is a character")
             << QByteArray("k = \xE4\xC3\xB6;") << QStringList{u"1 set <k> <äÃ¶>"_s};
@@ -284,7 +284,7 @@ private Q_SLOTS:
 
         QTest::newRow("root element") << QByteArray("<s/>") << true;
         QTest::newRow("blanks before it") << QByteArray("\n <s/>") << true;
-        QTest::newRow("comment behind it") << QByteArray("<s/><!-- c -->") << true;
+        QTest::newRow("comment after it") << QByteArray("<s/><!-- c -->") << true;
         QTest::newRow("declaration") << QByteArray("<?xml version='1.0'?><s/>") << false;
         QTest::newRow("comment") << QByteArray("<!-- c --><s/>") << false;
         QTest::newRow("processing instruction") << QByteArray("<?pi?><s/>") << false;

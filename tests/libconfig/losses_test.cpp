@@ -91,12 +91,12 @@ private Q_SLOTS:
         row("no text at all", cfg, "", false);
         row("missing ends", cfg, "r : { s : { k = v", false);
         row("remark before a brace", cfg, "r : remark { k = v; };", true);
-        row("remark behind a brace", cfg, "r : { k = v; } remark;", true);
+        row("remark after a brace", cfg, "r : { k = v; } remark;", true);
         row("text at the end", cfg, "r : { k = v; }; text", true);
         row("setting given twice", cfg, "r : { k = v; k = v; };", true);
         row("section without a setting", cfg, "r : { k = v; s : { }; };", true);
-        row("behind a brace too many", cfg, "r : { k = v; }; }; t : { l = w; };", true);
-        row("behind a missing semicolon", cfg, "r : { s : { k = v; } l = w; };", true);
+        row("after a brace too many", cfg, "r : { k = v; }; }; t : { l = w; };", true);
+        row("after a missing semicolon", cfg, "r : { s : { k = v; } l = w; };", true);
 
         const QString xml = u"xml"_s;
         row("elements only", xml, "<r k='1'>\n  <s l='2'/>\n</r>\n", false);

@@ -41,7 +41,7 @@ private Q_SLOTS:
         row("text is no setting", "<s><k>v</k></s>", u"s.k"_s, {});
         row("text is no value", "<s k=\"\">v</s>", u"s.k"_s, {});
         row("line end before the root element", "\n<s k=\"v\"/>", u"s.k"_s, u"v"_s);
-        row("comment behind the root element", "<s k=\"v\"/><!-- s -->", u"s.k"_s, u"v"_s);
+        row("comment after the root element", "<s k=\"v\"/><!-- s -->", u"s.k"_s, u"v"_s);
 
         row("declaration first", "<?xml version=\"1.0\"?><s k=\"v\"/>", u"s.k"_s, {});
         row("comment first", "<!-- s --><s k=\"v\"/>", u"s.k"_s, {});
@@ -53,9 +53,9 @@ private Q_SLOTS:
         row("comment first, child of the root element", "<!-- r --><r><s k=\"v\"/></r>", u"s.k"_s, {});
 
         row("cut off", "<s k=\"v\">", u"s.k"_s, {});
-        row("cut off behind an element", "<r><s k=\"v\"/>", u"s.k"_s, {});
+        row("cut off after an element", "<r><s k=\"v\"/>", u"s.k"_s, {});
         row("second root element", "<s k=\"v\"/><t/>", u"s.k"_s, {});
-        row("text behind the root element", "<s k=\"v\"/>text", u"s.k"_s, {});
+        row("text after the root element", "<s k=\"v\"/>text", u"s.k"_s, {});
         row("attribute given twice", "<s k=\"v\" k=\"w\"/>", u"s.k"_s, {});
         row("undeclared entity", "<s k=\"&v;\"/>", u"s.k"_s, {});
         row("empty file", "", u"s.k"_s, {});

@@ -111,7 +111,7 @@ private Q_SLOTS:
             << QByteArray("taverna : { doc : { x = y; }; };")
             << QStringList{
                    u"1: the first section is \"taverna\", not \"tavolux\", so nothing in the file is found"_s};
-        QTest::newRow("sections behind the first")
+        QTest::newRow("sections after the first")
             << QByteArray(
                    "tavolux : { doc : { paperWidth = 42; }; };\ntavolux : { x = y; };\nother : { x = y; };")
             << QStringList{u"2: the section \"tavolux\" is never read: only the first one, \"tavolux\", is"_s,
@@ -172,7 +172,7 @@ private Q_SLOTS:
                    u"3: the section \"tavolux.doc\" is given twice, first in line 2; of each setting the first that is not empty counts"_s};
 
         // What is missing.
-        QTest::newRow("semicolon missing behind a value")
+        QTest::newRow("semicolon missing after a value")
             << tavolux("doc : {\npaperWidth = 42\nprintNote = true;\n};")
             << QStringList{
                    u"3: the value of \"paperWidth\" takes in \"42 printNote = true\"; is a semicolon missing?"_s};
@@ -183,7 +183,7 @@ private Q_SLOTS:
                            u"4: \"doc\" is no section of \"tavolux.language\" that is ever read"_s};
         QTest::newRow("value over two lines that holds no statement")
             << tavolux("doc : { style = a\nb; };") << QStringList();
-        QTest::newRow("semicolon missing behind a brace")
+        QTest::newRow("semicolon missing after a brace")
             << tavolux("doc : { printNote = true; }\nsolddoc : { paperWidth = 42; };")
             << QStringList{
                    u"3: \"solddoc : { paperWidth = 42\" is passed over; is a semicolon or a brace missing before it?"_s,
@@ -209,7 +209,7 @@ private Q_SLOTS:
                    u"2: the value of \"paperWidth\" runs to the end of the file; is a semicolon missing?"_s};
         QTest::newRow("last semicolon missing does no harm")
             << QByteArray("tavolux : { doc : { paperWidth = 42; }; }\n") << QStringList();
-        QTest::newRow("text behind a setting")
+        QTest::newRow("text after a setting")
             << tavolux("doc : {\nprintNote = true; yes;\nprintLogo = true;\n};")
             << QStringList{u"3: \"yes; printLogo\" is taken for one name; is something missing in it?"_s};
         QTest::newRow("what looks like a comment")

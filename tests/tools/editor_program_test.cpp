@@ -51,7 +51,7 @@ void EditorProgramTest::answersWithoutDisplay()
 void EditorProgramTest::opensAFileNamedLikeAQuestion_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("behind the options") << QStringList{u"--"_s, u"--help"_s};
+    QTest::newRow("after the options") << QStringList{u"--"_s, u"--help"_s};
     QTest::newRow("as the value of one") << QStringList{u"--file"_s, u"-v"_s};
 }
 

@@ -517,7 +517,7 @@ void EditorWindowTest::asksBeforeUnshownTextIsLost_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("behind a brace too many")
+    QTest::newRow("after a brace too many")
         << u"cfg"_s << QByteArray("r : { s : { k = v; }; }; }; t : { l = w; };");
     QTest::newRow("comment in xml") << u"xml"_s << QByteArray("<r><!-- note --><s k='v'/></r>");
 }

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTreeWidget>
 
+#include <ranges>
+
 using libconfig::Section;
 
 namespace {
@@ -51,8 +53,8 @@ void expandAll(const QList<QTreeWidgetItem *> &items)
 {
     // What is below a closed item is not laid out, so the last comes first: each opened in view would lay out
     // all.
-    for (auto item = items.crbegin(); item != items.crend(); ++item)
-        (*item)->setExpanded(true);
+    for (QTreeWidgetItem *item : std::views::reverse(items))
+        item->setExpanded(true);
 }
 
 QString keyOf(const QTreeWidgetItem *item)
