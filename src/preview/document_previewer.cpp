@@ -1,0 +1,97 @@
+#include "document_previewer.h"
+
+#include "interface_language.h"
+#include "labels.h"
+#include "text_printout.h"
+#include "tx_configuration.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView untranslated = "en"_L1;
+
+// Where the labels' translations may lie: where the configuration says, then where they are installed.
+QStringList labelFolders(const TXConfiguration &configuration)
+{
+    QStringList folders = translationFolders();
+    if (const QString basedir = configuration.getStrValue(u"tavolux.language.basedir"_s); !basedir.isEmpty())
+        folders.prepend(basedir);
+    return folders;
+}
+
+} // namespace
+
+QStringList Preview::remarks() const
+{
+    QStringList remarks;
+    if (!reading.complete())
+        remarks << QCoreApplication::translate("Preview", "Incomplete: line %1, column %2: %3")
+                       .arg(reading.line)
+                       .arg(reading.column)
+                       .arg(reading.reason);
+    if (!printout.isKeptWhole()) {
+        const QLocale locale;
+        remarks << QCoreApplication::translate("Preview", "Only the first %1 of %2 lines are shown.")
+                       .arg(locale.toString(static_cast<qlonglong>(printout.lines.size())),
+                            locale.toString(printout.lineCount));
+    }
+    return remarks;
+}
+
+DocumentPreviewer::DocumentPreviewer()
+{
+    QCoreApplication::installTranslator(&m_translator);
+}
+
+DocumentPreviewer::~DocumentPreviewer()
+{
+    QCoreApplication::removeTranslator(&m_translator);
+}
+
+Preview DocumentPreviewer::preview(QIODevice &document, const TXConfiguration &configuration,
+                                   const PreviewChoice &choice)
+{
+    useLabels(configuration, choice.language);
+    Preview preview;
+    PreviewedCompanyPrinter driver(configuration, preview.printout, choice.columns);
+    preview.reading = printDocument(document, driver);
+    return preview;
+}
+
+QStringList DocumentPreviewer::languages(const TXConfiguration &configuration)
+{
+    const QString prefix = u"tavolux_"_s;
+    const QString suffix = u".qm"_s;
+    QStringList languages;
+    for (const QString &folder : labelFolders(configuration))
+        for (const QString &file : QDir(folder).entryList({prefix + u'*' + suffix}, QDir::Files))
+            languages << file.sliced(prefix.size(), file.size() - prefix.size() - suffix.size());
+    languages.removeDuplicates();
+    languages.sort();
+    languages.prepend(untranslated);
+    return languages;
+}
+
+void DocumentPreviewer::useLabels(const TXConfiguration &configuration,
+                                  const std::optional<QString> &language)
+{
+    QTranslator &labels = m_translator.labels.emplace();
+    if (!language) {
+        (void)loadLabels(labels, configuration);
+    } else if (*language != untranslated) {
+        for (const QString &folder : labelFolders(configuration))
+            if (labels.load("tavolux_"_L1 + *language, folder))
+                break;
+    }
+}
+
+QString DocumentPreviewer::LabelTranslator::translate(const char *context, const char *sourceText,
+                                                      const char *disambiguation, int n) const
+{
+    return labels ? labels->translate(context, sourceText, disambiguation, n) : QString();
+}
