@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
@@ -37,10 +38,16 @@ QString writeFile(const QString &name, const QByteArray &bytes)
         open(fileNameBytes(name).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (descriptor < 0)
         return reason(errno);
-    QFile file;
-    if (!file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)
-        || file.write(bytes) != bytes.size())
-        return file.errorString();
-    file.close();
-    return file.error() == QFile::NoError ? QString() : file.errorString();
+    QByteArrayView rest = bytes;
+    int error = 0;
+    while (!rest.isEmpty() && error == 0) {
+        const ssize_t written = ::write(descriptor, rest.data(), static_cast<std::size_t>(rest.size()));
+        if (written >= 0)
+            rest = rest.sliced(written);
+        else if (errno != EINTR)
+            error = errno;
+    }
+    if (::close(descriptor) != 0 && error == 0)
+        error = errno;
+    return error == 0 ? QString() : reason(error);
 }
