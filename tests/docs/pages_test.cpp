@@ -283,7 +283,7 @@ void PagesTest::namesWhatTheSourcesKnow_data()
         << textsInSources({u"src/driver/document_profile.h"_s}, u"QLatin1StringView \\w+\\{\"(\\w+)\""_s)
         << configuration << qsizetype(3);
     QTest::newRow("settings of the program")
-        << textsInSources({u"src/app/compile.cpp"_s}, u"getStrValue\\(u\"([\\w.]+)\"_s\\)"_s)
+        << textsInSources({u"src/driver/labels.cpp"_s}, u"getStrValue\\(u\"([\\w.]+)\"_s\\)"_s)
         << QStringList{configuration.first()} << qsizetype(2);
     QTest::newRow("profiles") << textsInSources(profile, u"\"tavolux\\.(\\w+)\\.\"_L1"_s) << configuration
                               << qsizetype(8);

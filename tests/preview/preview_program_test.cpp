@@ -2,6 +2,7 @@
 #include "temporary_home.h"
 
 #include <QDir>
+#include <QMimeDatabase>
 #include <QTest>
 
 #include <sys/resource.h>
@@ -50,12 +51,22 @@ private Q_SLOTS:
     void needsAFont();
     void worksWithoutAConfiguration();
     void boundsAHugeDocument();
+    void knowsTheTypeOfDocuments_data();
+    void knowsTheTypeOfDocuments();
     void answersQuestions_data();
     void answersQuestions();
 };
 
 void PreviewProgramTest::initTestCase()
 {
+    home.writeFile(u"mime/packages/tavolux-document.xml"_s,
+                   fileBytes(QStringLiteral(TAVOLUX_SOURCE_DIR "/packaging/tavolux-document.mime.xml")));
+    const QString others = u"/usr/share/mime/packages/freedesktop.org.xml"_s;
+    QVERIFY(QFile::copy(others, home.filePath(u"mime/packages/freedesktop.org.xml"_s)));
+    const ProgramResult update = runProgram(u"update-mime-database"_s, {home.filePath(u"mime"_s)});
+    QVERIFY2(update.exitStatus == 0, update.standardError.constData());
+    for (const char *const variable : {"XDG_DATA_HOME", "XDG_DATA_DIRS"}) // of the types of files
+        qputenv(variable, home.path().toUtf8());
     home.writeConfiguration(
         "tavolux : { receiptdoc : { paperWidth = 30; }; language : { basedir = \"" TAVOLUX_BINARY_DIR
         "/translations/\"; file = \"tavolux_it\"; }; };");
@@ -119,7 +130,7 @@ void PreviewProgramTest::writesToAnyName()
     const ProgramResult result = runProgram(
         u"sh"_s,
         {u"-c"_s,
-         u"f=$(printf 'caf\\351.txt'); cp order.xml \"$f.xml\"; \"$1\" \"$f.xml\" \"$f\" && cat \"$f\""_s,
+         u"f=$(printf 'caf\\351.txt'); cp order.xml \"$f.xml\"; \"$1\" \"$f.xml\" \"$f\" && cat \"$f\"; rm \"$f\"*"_s,
          u"sh"_s, QStringLiteral(TAVOLUX_PREVIEW)},
         {{u"HOME"_s, home.path()}}, {}, inFolder(home.path()));
     QCOMPARE(result.standardError, QByteArray());
@@ -270,7 +281,7 @@ void PreviewProgramTest::boundsAHugeDocument()
     };
 
     const ProgramResult text =
-        run({rows, home.filePath(u"huge.txt"_s), u"--columns=40"_s}, {}, inLittleMemory);
+        run({rows, home.filePath(u"huge.txt"_s), u"--columns=60"_s}, {}, inLittleMemory);
     // The rows have a line of titles above.
     const QByteArray remark =
         "tavolux-preview: " + rows.toUtf8() + ": Only the first 100,000 of 1,000,001 lines are shown.\n";
@@ -283,6 +294,26 @@ void PreviewProgramTest::boundsAHugeDocument()
              picture.standardError.constData());
     QCOMPARE(picture.exitStatus, 2);
     QFile::remove(rows);
+}
+
+void PreviewProgramTest::knowsTheTypeOfDocuments_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("type");
+    const QString ours = u"application/vnd.tavolux.document+xml"_s;
+    QTest::newRow("by its name") << u"order.tvx"_s << "anything"_ba << ours;
+    QTest::newRow("by its method") << u"order"_s << "<?xml version=\"1.0\"?>\n" + QByteArray(receipt) << ours;
+    QTest::newRow("without a declaration") << u"order"_s << QByteArray(receipt) << ours;
+    QTest::newRow("other XML") << u"order"_s << "<?xml version=\"1.0\"?><order/>"_ba << u"application/xml"_s;
+}
+
+void PreviewProgramTest::knowsTheTypeOfDocuments()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, type);
+    QCOMPARE(QMimeDatabase().mimeTypeForFile(home.writeFile(name, content)).name(), type);
 }
 
 void PreviewProgramTest::answersQuestions_data()
