@@ -15,6 +15,12 @@ namespace {
 
 constexpr QLatin1StringView untranslated = "en"_L1;
 
+/* Where the texts of this file are translated. */
+struct PreviewRemarks
+{
+    Q_DECLARE_TR_FUNCTIONS(PreviewRemarks)
+};
+
 // Where the labels' translations may lie: where the configuration says, then where they are installed.
 QStringList labelFolders(const TXConfiguration &configuration)
 {
@@ -30,13 +36,13 @@ QStringList Preview::remarks() const
 {
     QStringList remarks;
     if (!reading.complete())
-        remarks << QCoreApplication::translate("Preview", "Incomplete: line %1, column %2: %3")
+        remarks << PreviewRemarks::tr("Incomplete: line %1, column %2: %3")
                        .arg(reading.line)
                        .arg(reading.column)
                        .arg(reading.reason);
     if (!printout.isKeptWhole()) {
         const QLocale locale;
-        remarks << QCoreApplication::translate("Preview", "Only the first %1 of %2 lines are shown.")
+        remarks << PreviewRemarks::tr("Only the first %1 of %2 lines are shown.")
                        .arg(locale.toString(static_cast<qlonglong>(printout.lines.size())),
                             locale.toString(printout.lineCount));
     }

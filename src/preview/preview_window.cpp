@@ -145,9 +145,9 @@ void PreviewWindow::refresh()
 
 void PreviewWindow::updateStatus()
 {
-    QStringList parts{tr("%1 columns").arg(m_preview.printout.columns),
-                      tr("%n line(s)", nullptr, static_cast<int>(m_preview.printout.lineCount)),
-                      tr("%1 %").arg(qRound(100 * m_view->zoom()))};
+    QStringList parts{tr("Columns: %1").arg(m_preview.printout.columns),
+                      tr("Lines: %1").arg(m_preview.printout.lineCount),
+                      tr("Zoom: %1 %").arg(qRound(100 * m_view->zoom()))};
     if (m_preview.printout.copies > 1)
         parts.insert(2, tr("to be printed twice"));
     m_status->setText(parts.join(u"  ·  "_s));
@@ -156,7 +156,7 @@ void PreviewWindow::updateStatus()
 void PreviewWindow::askForDocument()
 {
     const QString document = QFileDialog::getOpenFileName(this, tr("Open a Document"), m_document,
-                                                          tr("Documents (*.xml);;All files (*)"));
+                                                          tr("Documents (*.xml *.tvx);;All files (*)"));
     if (!document.isEmpty())
         open(document);
 }

@@ -17,18 +17,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString translated(const char *text)
+/* Where the texts of this file are translated. */
+struct PrintoutFiles
 {
-    return QCoreApplication::translate("PrintoutFiles", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PrintoutFiles)
+};
 
 PrintoutFile pngOf(const PrintoutPainter &painter)
 {
     constexpr int highest = 32'767; // that the toolkit draws, and most programs show
     if (painter.size().height() > highest)
         return {{},
-                translated("the picture would be %1 dots high, more than %2; "
-                           "a PDF, an SVG or a text can hold this printout")
+                PrintoutFiles::tr("the picture would be %1 dots high, more than %2; "
+                                  "a PDF, an SVG or a text can hold this printout")
                     .arg(painter.size().height())
                     .arg(highest)};
 
@@ -36,7 +37,7 @@ PrintoutFile pngOf(const PrintoutPainter &painter)
     constexpr int dotsPerMetre = static_cast<int>(PrintoutPainter::dotsPerInch * inchesPerMetre);
     QImage image(painter.size(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
-        return {{}, translated("there is not enough memory for the picture")};
+        return {{}, PrintoutFiles::tr("there is not enough memory for the picture")};
     image.fill(Qt::transparent);
     QPainter canvas(&image);
     painter.paint(canvas, image.rect());
@@ -48,7 +49,7 @@ PrintoutFile pngOf(const PrintoutPainter &painter)
     QBuffer buffer(&file.bytes);
     buffer.open(QIODevice::WriteOnly);
     if (!image.save(&buffer, "PNG"))
-        file.error = translated("the picture cannot be made");
+        file.error = PrintoutFiles::tr("the picture cannot be made");
     return file;
 }
 
@@ -59,7 +60,7 @@ PrintoutFile svgOf(const PrintoutPainter &painter)
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
     generator.setResolution(PrintoutPainter::dotsPerInch);
-    generator.setTitle(translated("Printout"));
+    generator.setTitle(PrintoutFiles::tr("Printout"));
     generator.setSize(painter.size());
     generator.setViewBox(QRect(QPoint(), painter.size()));
     QPainter canvas(&generator);
@@ -80,7 +81,7 @@ PrintoutFile pdfOf(const PrintoutPainter &painter)
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setResolution(PrintoutPainter::dotsPerInch);
-    writer.setTitle(translated("Printout"));
+    writer.setTitle(PrintoutFiles::tr("Printout"));
     writer.setCreator(QCoreApplication::applicationName());
     writer.setPageMargins({});
     QPainter canvas;

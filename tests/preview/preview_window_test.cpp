@@ -1,3 +1,4 @@
+#include "interface_language.h"
 #include "preview_window.h"
 #include "printout_view.h"
 #include "temporary_home.h"
@@ -10,6 +11,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
@@ -86,6 +88,7 @@ private Q_SLOTS:
     void drawsOnlyWhatIsSeen();
     void choosesTheLanguage();
     void choosesThePaper();
+    void speaksTheLanguageOfItsPerson();
     void saves_data();
     void saves();
     void tellsWhatCannotBeSaved_data();
@@ -235,6 +238,23 @@ void PreviewWindowTest::choosesThePaper()
 
     const PreviewWindow unusual(opened.document, opened.configuration, {.columns = 7, .language = {}});
     QCOMPARE(unusual.findChild<QComboBox *>(u"paper"_s)->currentData().toInt(), 7);
+}
+
+void PreviewWindowTest::speaksTheLanguageOfItsPerson()
+{
+    QLocale::setDefault(QLocale(u"de_AT"_s));
+    QTranslator translator;
+    QVERIFY(loadInterface(translator, {u"/nowhere"_s, QStringLiteral(TAVOLUX_BINARY_DIR "/translations")}));
+    QCoreApplication::installTranslator(&translator);
+    {
+        OpenedWindow opened;
+        QCOMPARE(opened.window.menuBar()->actions().constFirst()->text(), u"&Datei"_s);
+        QCOMPARE(opened.firstLine(), u" Serial Number: 17"_s); // as configured
+        opened.home.writeFile(u"order.xml"_s, receipt("17").chopped(3));
+        QTRY_VERIFY(opened.remarks.text().startsWith(u"Unvollst\u00E4ndig: Zeile 1, "_s));
+    }
+    QCoreApplication::removeTranslator(&translator);
+    QLocale::setDefault(QLocale::c());
 }
 
 void PreviewWindowTest::saves_data()
