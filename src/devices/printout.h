@@ -1,5 +1,6 @@
 #pragma once
 
+#include "logo.h"
 #include "paper.h"
 
 #include <QString>
@@ -54,8 +55,10 @@ struct Printout
     int columns = 1; // of the paper
     std::vector<PrintedLine> lines;
     qint64 lineCount = 0; // with those that are not kept
+    Raster logo; // that stands on each line of its kind; without rows it is kept in the printer
+    QString logoFault; // why there is none that should be there
     Ending ending = Ending::complete;
-    int copies = 1;
+    int copies = 1; // that come out
 
     bool isKeptWhole() const { return lineCount == static_cast<qint64>(lines.size()); }
 
@@ -82,6 +85,8 @@ public:
     void end(Ending ending, int copies) override;
 
 protected:
+    Printout &printout() const { return m_printout; }
+
     /* Adds text of which each character takes one column, or a single character that takes so many. */
     void addCharacters(QStringView text, TextStyle style);
     void addSingle(const QString &character, int columns, TextStyle style);

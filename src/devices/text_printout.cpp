@@ -98,6 +98,11 @@ void TextPrintout::logo() { }
 
 void TextPrintout::cut() { }
 
+void TextPrintout::end(Ending ending, int)
+{
+    PrintoutPaper::end(ending, 1);
+}
+
 PreviewedCompanyPrinter::PreviewedCompanyPrinter(const TXConfiguration &settings, Printout &printout,
                                                  int paperColumns)
     : CompanyPrinterDriver(

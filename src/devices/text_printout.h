@@ -20,6 +20,9 @@ public:
     void text(QStringView text, TextStyle style) override;
     void logo() override;
     void cut() override;
+
+    /* There is one copy, whatever the document asks for. */
+    void end(Ending ending, int copies) override;
 };
 
 /* The plain-text printer that prints on a paper that is kept, and shows the drawer instead of its command. */

@@ -2,7 +2,9 @@
 
 #include "interface_language.h"
 #include "labels.h"
-#include "text_printout.h"
+#include "make_driver.h"
+#include "printer_driver.h"
+#include "printer_settings.h"
 #include "tx_configuration.h"
 
 #include <QCoreApplication>
@@ -30,6 +32,17 @@ QStringList labelFolders(const TXConfiguration &configuration)
     return folders;
 }
 
+// Without one in the configuration, and for a name that is not known, it is the plain-text printer.
+PrinterSettings chosenPrinter(const TXConfiguration &configuration, const QString &name)
+{
+    const QStringList configured = printerNames(configuration);
+    const QString wanted = name.isEmpty() ? configured.value(0) : name;
+    if (configured.contains(wanted))
+        return printerOfName(configuration, wanted);
+    const PrinterModel *const model = findPrinterModel(wanted);
+    return PrinterSettings(model ? *model : plainTextModel());
+}
+
 } // namespace
 
 QStringList Preview::remarks() const
@@ -40,6 +53,8 @@ QStringList Preview::remarks() const
                        .arg(reading.line)
                        .arg(reading.column)
                        .arg(reading.reason);
+    if (!printout.logoFault.isEmpty())
+        remarks << PreviewRemarks::tr("The logo is not printed: %1").arg(printout.logoFault);
     if (!printout.isKeptWhole()) {
         const QLocale locale;
         remarks << PreviewRemarks::tr("Only the first %1 of %2 lines are shown.")
@@ -64,9 +79,19 @@ Preview DocumentPreviewer::preview(QIODevice &document, const TXConfiguration &c
 {
     useLabels(configuration, choice.language);
     Preview preview;
-    PreviewedCompanyPrinter driver(configuration, preview.printout, choice.columns);
-    preview.reading = printDocument(document, driver);
+    const std::unique_ptr<PrinterDriver> driver = makePreviewDriver(
+        configuration, chosenPrinter(configuration, choice.printer), choice.columns, preview.printout);
+    preview.reading = printDocument(document, *driver);
     return preview;
+}
+
+QStringList DocumentPreviewer::printers(const TXConfiguration &configuration)
+{
+    QStringList names = printerNames(configuration);
+    for (const PrinterModel &model : printerModels)
+        if (!names.contains(model.name))
+            names << model.name;
+    return names;
 }
 
 QStringList DocumentPreviewer::languages(const TXConfiguration &configuration)

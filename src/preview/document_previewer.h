@@ -14,6 +14,7 @@ class TXConfiguration;
 /* What a preview may have otherwise than the configuration says. */
 struct PreviewChoice
 {
+    QString printer; // of a section of the configuration, or a model; empty is the first of the configuration
     int columns = 0; // of the paper; 0 is as many as the printer has
     std::optional<QString> language; // of the labels, such as "de", or "en" for those without translation
 
@@ -47,6 +48,9 @@ public:
     /* Prints the document. A language without translation leaves the labels as they are. */
     Preview preview(QIODevice &document, const TXConfiguration &configuration,
                     const PreviewChoice &choice = {});
+
+    /* The names of printers that can be chosen: those of the configuration, then the models. */
+    static QStringList printers(const TXConfiguration &configuration);
 
     /* The languages that labels can be had in, "en" first. */
     static QStringList languages(const TXConfiguration &configuration);

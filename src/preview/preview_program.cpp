@@ -99,7 +99,7 @@ public:
         m_parser.setApplicationDescription(
             u"Shows a document as it would be printed, in a window or as a file.\n\n"
             "Exit status: 0 if all of the document is shown, 1 if only a part of it, 2 if nothing."_s);
-        m_parser.addOptions({m_help, m_version, m_file, m_columns, m_language, m_format});
+        m_parser.addOptions({m_help, m_version, m_file, m_printer, m_columns, m_language, m_format});
         m_parser.addPositionalArgument(u"DOCUMENT"_s, u"The document, as XML."_s);
         m_parser.addPositionalArgument(
             u"OUT"_s,
@@ -144,6 +144,9 @@ public:
                         u"'%1' is no number of columns: it is 1 to %2"_s.arg(m_parser.value(m_columns))
                             .arg(Printout::maximumColumns)};
         }
+        if (m_parser.isSet(m_printer) && m_parser.isSet(m_columns))
+            return {{}, u"a printer has its columns: give --printer or --columns"_s};
+        task.choice.printer = m_parser.value(m_printer);
         if (m_parser.isSet(m_language))
             task.choice.language = m_parser.value(m_language);
         return {task, {}};
@@ -154,6 +157,9 @@ private:
     const QCommandLineOption m_version{{u"v"_s, u"version"_s}, u"Displays the version."_s};
     const QCommandLineOption m_file{
         u"file"_s, u"The configuration to print with, the user's own unless given."_s, u"CONFIGURATION"_s};
+    const QCommandLineOption m_printer{
+        u"printer"_s, u"A printer of the configuration or a model, the first configured one unless given."_s,
+        u"NAME"_s};
     const QCommandLineOption m_columns{u"columns"_s, u"The width of the paper, as configured unless given."_s,
                                        u"N"_s};
     const QCommandLineOption m_language{
@@ -171,7 +177,11 @@ QString obstacle(const Task &task)
     if (const QString error = openForReading(task.configuration).error;
         !error.isEmpty() && task.configuration != TXConfiguration::userFile())
         return u"cannot read %1: %2"_s.arg(task.configuration, error);
-    const QStringList languages = DocumentPreviewer::languages(TXConfiguration(task.configuration, u"cfg"_s));
+    const TXConfiguration configuration(task.configuration, u"cfg"_s);
+    if (const QStringList printers = DocumentPreviewer::printers(configuration);
+        !task.choice.printer.isEmpty() && !printers.contains(task.choice.printer))
+        return u"there is no printer '%1', only: %2"_s.arg(task.choice.printer, printers.join(u", "_s));
+    const QStringList languages = DocumentPreviewer::languages(configuration);
     if (task.choice.language && !languages.contains(*task.choice.language))
         return u"there are no labels in the language '%1', only in: %2"_s.arg(*task.choice.language,
                                                                               languages.join(u", "_s));

@@ -1,6 +1,7 @@
 #include "preview_window.h"
 
 #include "files.h"
+#include "printer_models.h"
 #include "printout_files.h"
 #include "printout_view.h"
 #include "tx_configuration.h"
@@ -23,6 +24,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::array usualColumns = {32, 40, 42, 48};
+
+// A model has one, a printer of the configuration its name alone.
+QString titleOf(const QString &printer)
+{
+    const PrinterModel *const model = findPrinterModel(printer);
+    return model ? QString(model->title) : printer;
+}
 
 } // namespace
 
@@ -91,9 +99,19 @@ void PreviewWindow::createChoices()
         return choice;
     };
 
+    const TXConfiguration configuration(m_configuration, u"cfg"_s);
+    QComboBox *printers = addChoice(tr("P&rinter:"), u"printer"_s);
+    printers->addItem(tr("as configured"));
+    for (const QString &printer : DocumentPreviewer::printers(configuration))
+        printers->addItem(titleOf(printer), printer);
+    printers->setCurrentIndex(std::max(0, printers->findData(m_choice.printer)));
+    connect(printers, &QComboBox::currentIndexChanged, this, [this, printers] {
+        m_choice.printer = printers->currentData().toString();
+        refresh();
+    });
+
     QComboBox *languages = addChoice(tr("&Language:"), u"language"_s);
     languages->addItem(tr("as configured"));
-    const TXConfiguration configuration(m_configuration, u"cfg"_s);
     for (const QString &language : DocumentPreviewer::languages(configuration))
         languages->addItem(QLocale(language).nativeLanguageName(), language);
     languages->setCurrentIndex(std::max(0, languages->findData(m_choice.language.value_or(QString()))));

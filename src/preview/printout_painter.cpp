@@ -36,11 +36,11 @@ const QColor wrapColour(0xC8, 0x6A, 0x1E);
 const QColor markColour(0xFF, 0xEE, 0xA8);
 const QColor remarkColour(0xB3, 0x26, 0x1E);
 
-int heightOf(const PrintedLine &line)
+int heightOf(const PrintedLine &line, const Raster &logo)
 {
     switch (line.kind) {
     case PrintedLine::Kind::logo:
-        return logoHeight;
+        return logo.rows > 0 ? logo.rows : logoHeight;
     case PrintedLine::Kind::cut:
         return cutHeight;
     case PrintedLine::Kind::drawer:
@@ -116,9 +116,18 @@ void paintDrawer(QPainter &painter, const QRect &line)
     painter.restore();
 }
 
-// Until a printer tells its picture: the frame that the logo fills.
-void paintLogo(QPainter &painter, const QRect &line)
+// As the printer prints it, dot by dot; of one that is kept in the printer nobody knows more than where it
+// is.
+void paintLogo(QPainter &painter, const QRect &line, const Raster &logo)
 {
+    if (logo.rows > 0) {
+        constexpr int dotsPerByte = 8;
+        QImage dots(reinterpret_cast<const uchar *>(logo.bits.constData()), logo.bytesPerRow * dotsPerByte,
+                    logo.rows, logo.bytesPerRow, QImage::Format_Mono);
+        dots.setColorTable({Qt::transparent, inkColour.rgb()});
+        painter.drawImage(line.center().x() - dots.width() / 2, line.top(), dots);
+        return;
+    }
     const QRectF frame(line.center().x() - 108, line.top() + 6, 216, line.height() - 18);
     painter.setPen(QPen(signColour, 2));
     painter.setBrush(Qt::NoBrush);
@@ -175,7 +184,7 @@ PrintoutPainter::PrintoutPainter(Printout printout, QStringList remarks, std::ve
     m_lineTops.reserve(m_printout.lines.size() + 1);
     for (const PrintedLine &line : m_printout.lines) {
         m_lineTops.push_back(top);
-        top += heightOf(line);
+        top += heightOf(line, m_printout.logo);
     }
     m_lineTops.push_back(top);
     m_marked.resize(m_printout.lines.size());
@@ -267,7 +276,7 @@ void PrintoutPainter::paintLine(QPainter &painter, const QFont &font, std::size_
         painter.fillRect(area.adjusted(-4, -3, 4, -3), markColour);
     switch (line.kind) {
     case PrintedLine::Kind::logo:
-        return paintLogo(painter, area);
+        return paintLogo(painter, area, m_printout.logo);
     case PrintedLine::Kind::cut:
         return paintCut(painter, area, paperLeft, paperRight());
     case PrintedLine::Kind::drawer:

@@ -236,7 +236,8 @@ void PreviewWindowTest::choosesThePaper()
     papers->setCurrentIndex(0);
     QCOMPARE(opened.view.painter()->printout().columns, 25);
 
-    const PreviewWindow unusual(opened.document, opened.configuration, {.columns = 7, .language = {}});
+    const PreviewWindow unusual(opened.document, opened.configuration,
+                                {.printer = {}, .columns = 7, .language = {}});
     QCOMPARE(unusual.findChild<QComboBox *>(u"paper"_s)->currentData().toInt(), 7);
 }
 

@@ -37,7 +37,8 @@ Preview previewOf(const QByteArray &document, const QString &configuration, int 
     QByteArray bytes = document;
     QBuffer device(&bytes);
     DocumentPreviewer previewer;
-    return previewer.preview(device, TXConfiguration(configuration, u"cfg"_s), {paper, {}});
+    return previewer.preview(device, TXConfiguration(configuration, u"cfg"_s),
+                             {.printer = {}, .columns = paper, .language = {}});
 }
 
 PrintoutPainter painterOf(const Preview &preview)
