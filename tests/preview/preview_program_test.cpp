@@ -166,7 +166,7 @@ void PreviewProgramTest::saysWhatIsWrong_data()
             << "'" + QByteArray(columns) + "' is no number of columns: it is 1 to 255" << 2;
     QTest::newRow("unknown language")
         << QStringList{name, output, u"--language=tlh"_s}
-        << "there are no labels in the language 'tlh', only in: en, de, es, fr, it"_ba << 2;
+        << "there are no labels in the language 'tlh', only in: en, de, es, fr, it, nl, pl, pt"_ba << 2;
     QTest::newRow("no such document") << QStringList{u"missing.xml"_s, output}
                                       << "cannot read missing.xml: No such file or directory"_ba << 2;
     QTest::newRow("document is a folder")

@@ -11,6 +11,10 @@
         <source>Only the first %1 of %2 lines are shown.</source>
         <translation>Nur die ersten %1 von %2 Zeilen werden gezeigt.</translation>
     </message>
+    <message>
+        <source>The logo is not printed: %1</source>
+        <translation>Das Logo wird nicht gedruckt: %1</translation>
+    </message>
 </context>
 <context>
     <name>PreviewWindow</name>
@@ -121,6 +125,10 @@
     <message>
         <source>Cannot write %1: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>D&amp;rucker:</translation>
     </message>
 </context>
 <context>

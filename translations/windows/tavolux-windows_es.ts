@@ -11,6 +11,10 @@
         <source>Only the first %1 of %2 lines are shown.</source>
         <translation>Solo se muestran las primeras %1 de %2 líneas.</translation>
     </message>
+    <message>
+        <source>The logo is not printed: %1</source>
+        <translation>El logotipo no se imprime: %1</translation>
+    </message>
 </context>
 <context>
     <name>PreviewWindow</name>
@@ -121,6 +125,10 @@
     <message>
         <source>Cannot write %1: %2</source>
         <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Im&amp;presora:</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,10 @@
         <source>Only the first %1 of %2 lines are shown.</source>
         <translation>Seules les %1 premières lignes sur %2 sont affichées.</translation>
     </message>
+    <message>
+        <source>The logo is not printed: %1</source>
+        <translation>Le logo n’est pas imprimé : %1</translation>
+    </message>
 </context>
 <context>
     <name>PreviewWindow</name>
@@ -121,6 +125,10 @@
     <message>
         <source>Cannot write %1: %2</source>
         <translation>Impossible d’écrire %1 : %2</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Imp&amp;rimante :</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,10 @@
         <source>Only the first %1 of %2 lines are shown.</source>
         <translation>Sono mostrate solo le prime %1 righe su %2.</translation>
     </message>
+    <message>
+        <source>The logo is not printed: %1</source>
+        <translation>Il logo non viene stampato: %1</translation>
+    </message>
 </context>
 <context>
     <name>PreviewWindow</name>
@@ -121,6 +125,10 @@
     <message>
         <source>Cannot write %1: %2</source>
         <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Stampa&amp;nte:</translation>
     </message>
 </context>
 <context>
