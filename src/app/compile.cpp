@@ -2,6 +2,7 @@
 
 #include "diagnostic.h"
 #include "file_name.h"
+#include "labels.h"
 #include "make_driver.h"
 #include "print_document.h"
 #include "print_output.h"
@@ -11,7 +12,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QLocale>
 #include <QTranslator>
 
 #include <fcntl.h>
@@ -79,13 +79,7 @@ void compile(int argc, char *argv[])
     const TXConfiguration &configuration = SyncSingleton<TXConfiguration>::instance();
 
     QTranslator translator;
-    const QString basedir = configuration.getStrValue(u"tavolux.language.basedir"_s);
-    const QString file = configuration.getStrValue(u"tavolux.language.file"_s);
-    // A translation that is not found leaves the labels as they are.
-    if (file == "/"_L1)
-        (void)translator.load(basedir + "/tavolux_"_L1 + QLocale::system().name(), u"."_s);
-    else
-        (void)translator.load(basedir + file);
+    (void)loadLabels(translator, configuration);
     QCoreApplication::installTranslator(&translator);
 
     // The names are the bytes of the command line, of whatever encoding.

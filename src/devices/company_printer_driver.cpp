@@ -7,12 +7,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int deviceColumns = 34;
-
-} // namespace
-
 CompanyPrinterDriver::CompanyPrinterDriver(const QString &outputPath, bool append)
     : CompanyPrinterDriver(
         SyncSingleton<TXConfiguration>::instance(),
@@ -23,7 +17,13 @@ CompanyPrinterDriver::CompanyPrinterDriver(const QString &outputPath, bool appen
 
 CompanyPrinterDriver::CompanyPrinterDriver(const TXConfiguration &settings,
                                            std::unique_ptr<PrintOutput> output)
-    : PaperDriver(settings, std::move(output), std::make_unique<TextPaper>(deviceColumns))
+    : CompanyPrinterDriver(settings, std::move(output), std::make_unique<TextPaper>(deviceColumns))
+{
+}
+
+CompanyPrinterDriver::CompanyPrinterDriver(const TXConfiguration &settings,
+                                           std::unique_ptr<PrintOutput> output, std::unique_ptr<Paper> paper)
+    : PaperDriver(settings, std::move(output), std::move(paper))
 {
 }
 

@@ -83,10 +83,6 @@ QByteArray printRaster(const Raster &raster, int firstRow, int rows)
         + raster.bits.sliced(qsizetype(firstRow) * raster.bytesPerRow, qsizetype(rows) * raster.bytesPerRow);
 }
 
-// A line of this length is wider than any paper. It is printed as far as it goes, so as not to fill the
-// memory.
-constexpr qsizetype longestLine = 4096;
-
 constexpr int dotsPerColumn = 12; // of the normal type
 constexpr int rowsAtOnce = 128; // of a picture: small printers have little memory
 
@@ -96,6 +92,18 @@ int dotsAcross(const PrinterModel &model)
 }
 
 } // namespace
+
+QString EscposPaper::incompleteMark()
+{
+    return QObject::tr("*** INCOMPLETE ***");
+}
+
+Logo EscposPaper::logoOf(const PrinterSettings &settings)
+{
+    if (!settings.model->raster)
+        return {{}, u"the printer prints no pictures"_s};
+    return readLogo(settings.logoFile, dotsAcross(*settings.model));
+}
 
 EscposPaper::EscposPaper(PrinterSettings settings)
     : m_settings(std::move(settings))
@@ -181,7 +189,7 @@ void EscposPaper::end(Ending ending, int copies)
     if (!m_line.text().isEmpty())
         endLine();
     if (ending == Ending::incomplete) {
-        text(QObject::tr("*** INCOMPLETE ***"), {.bold = true, .doubleHeight = true});
+        text(incompleteMark(), {.bold = true, .doubleHeight = true});
         endLine();
     }
     cut();
@@ -231,9 +239,7 @@ void EscposPaper::printLine()
 void EscposPaper::printPicture()
 {
     if (!m_logo) {
-        m_logo = std::make_unique<Logo>(m_settings.model->raster
-                                            ? readLogo(m_settings.logoFile, dotsAcross(*m_settings.model))
-                                            : Logo{{}, u"the printer prints no pictures"_s});
+        m_logo = std::make_unique<Logo>(logoOf(m_settings));
         if (!m_logo->fault.isEmpty())
             printDiagnostic("Error in the method EscposPaper::logo( " + shownFileName(m_settings.logoFile)
                             + " ): " + m_logo->fault.toLocal8Bit());

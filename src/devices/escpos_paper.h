@@ -20,6 +20,16 @@ struct Logo;
 class EscposPaper : public Paper
 {
 public:
+    /* A line of this length is wider than any paper. It is printed as far as it goes, so as not to fill the
+     * memory. */
+    static constexpr qsizetype longestLine = 4096;
+
+    /* What stands beneath a document that is incomplete. */
+    static QString incompleteMark();
+
+    /* The logo that the printer is sent, read from its file. */
+    static Logo logoOf(const PrinterSettings &settings);
+
     /* For a printer that has code pages. */
     explicit EscposPaper(PrinterSettings settings);
     ~EscposPaper() override;

@@ -140,7 +140,7 @@ private Q_SLOTS:
 };
 
 // Each xml block is a document, printed with the tavolux-conf block above it; the text block behind it is its
-// printout.
+// printout. Of the block "xml picture" a picture is shown instead, which the preview's tests compare.
 void PagesTest::printsWhatThePageShows_data()
 {
     QTest::addColumn<QString>("configuration");
@@ -180,7 +180,11 @@ void PagesTest::printsWhatThePageShows()
 
 void PagesTest::passesTheSchema_data()
 {
-    printsWhatThePageShows_data();
+    QTest::addColumn<QString>("document");
+    for (const QString &path : markdownPages())
+        for (const FencedBlock &block : readPage(path).blocks)
+            if (block.language.startsWith("xml"_L1))
+                QTest::addRow("%s:%lld", qPrintable(path), static_cast<long long>(block.line)) << block.text;
 }
 
 void PagesTest::passesTheSchema()
@@ -208,7 +212,8 @@ void PagesTest::everyDocumentHasItsPrintout()
 {
     QFETCH(const QString, path);
 
-    static const QStringList languages = {u""_s, u"messages"_s, u"tavolux-conf"_s, u"text"_s, u"xml"_s};
+    static const QStringList languages = {u""_s,     u"messages"_s, u"tavolux-conf"_s,
+                                          u"text"_s, u"xml"_s,      u"xml picture"_s};
     QString before;
     for (const FencedBlock &block : readPage(path).blocks) {
         const QString where = u"%1:%2"_s.arg(path).arg(block.line);
@@ -281,7 +286,7 @@ void PagesTest::namesWhatTheSourcesKnow_data()
         << textsInSources({u"src/driver/document_profile.h"_s}, u"QLatin1StringView \\w+\\{\"(\\w+)\""_s)
         << configuration << qsizetype(3);
     QTest::newRow("settings of the program")
-        << textsInSources({u"src/app/compile.cpp"_s}, u"getStrValue\\(u\"([\\w.]+)\"_s\\)"_s)
+        << textsInSources({u"src/driver/labels.cpp"_s}, u"getStrValue\\(u\"([\\w.]+)\"_s\\)"_s)
         << QStringList{configuration.first()} << qsizetype(2);
     QTest::newRow("profiles") << textsInSources(profile, u"\"tavolux\\.(\\w+)\\.\"_L1"_s) << configuration
                               << qsizetype(8);

@@ -86,6 +86,8 @@ private Q_SLOTS:
     void isPrintableInItsCodePage_data() { eachLanguage(); }
     void isPrintableInItsCodePage();
     void newLanguageStartsUntranslated();
+    void windowsAreTranslated_data();
+    void windowsAreTranslated();
 
 private:
     static void eachLanguage();
@@ -96,7 +98,7 @@ private:
 // The script that refreshes the catalogues does it here in a copy of the folders it works in.
 void CatalogueTest::initTestCase()
 {
-    for (const QString &folder : {u"scripts"_s, u"translations"_s}) {
+    for (const QString &folder : {u"scripts"_s, u"translations"_s, u"translations/windows"_s}) {
         QVERIFY(QDir(refreshed.path()).mkdir(folder));
         const auto files = QDir(sourceFolder + u'/' + folder).entryInfoList(QDir::Files);
         for (const QFileInfo &file : files)
@@ -200,6 +202,31 @@ void CatalogueTest::newLanguageStartsUntranslated()
     QVERIFY(languages.split('\n').contains("pt_BR"));
     QCOMPARE(runProgram(script, {u"Portuguese"_s}).exitStatus, 1);
     QCOMPARE(fileBytes(refreshed.filePath(u"translations/languages"_s)), languages);
+}
+
+// What windows say has catalogues of its own, which the printing program does not read.
+void CatalogueTest::windowsAreTranslated_data()
+{
+    QTest::addColumn<QString>("language");
+    const QByteArray languages = fileBytes(sourceFolder + "/translations/windows/languages"_L1);
+    for (const QByteArray &language : languages.trimmed().split('\n'))
+        QTest::newRow(language.constData()) << QString::fromUtf8(language);
+    QCOMPARE(QDir(sourceFolder + "/translations/windows"_L1).entryList({u"*.ts"_s}).size(),
+             languages.trimmed().split('\n').size());
+}
+
+void CatalogueTest::windowsAreTranslated()
+{
+    QFETCH(const QString, language);
+    const QString catalogue = "/translations/windows/tavolux-windows_"_L1 + language + ".ts"_L1;
+    const QMap<QString, Entry> found = entries(sourceFolder + catalogue);
+    const QMap<QString, Entry> wanted = entries(refreshed.path() + catalogue);
+    QVERIFY(wanted.contains("PreviewWindow::Saved."_L1));
+    QVERIFY(!wanted.contains("QObject::withdrawal"_L1));
+    QCOMPARE(labelsOnlyIn(wanted, found), QString());
+    QCOMPARE(labelsOnlyIn(found, wanted), QString());
+    for (auto entry = found.begin(); entry != found.end(); ++entry)
+        QVERIFY2(entry->state.isEmpty() && !entry->translation.isEmpty(), qPrintable(entry.key()));
 }
 
 QTEST_GUILESS_MAIN(CatalogueTest)
