@@ -195,5 +195,9 @@
         <source>CUSTOMER</source>
         <translation>KLANT</translation>
     </message>
+    <message>
+        <source>*** INCOMPLETE ***</source>
+        <translation>*** ONVOLLEDIG ***</translation>
+    </message>
 </context>
 </TS>

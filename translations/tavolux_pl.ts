@@ -195,5 +195,9 @@
         <source>CUSTOMER</source>
         <translation>KLIENT</translation>
     </message>
+    <message>
+        <source>*** INCOMPLETE ***</source>
+        <translation>*** NIEKOMPLETNE ***</translation>
+    </message>
 </context>
 </TS>

@@ -195,5 +195,9 @@
         <source>CUSTOMER</source>
         <translation>CLIENTE</translation>
     </message>
+    <message>
+        <source>*** INCOMPLETE ***</source>
+        <translation>*** INCOMPLETO ***</translation>
+    </message>
 </context>
 </TS>
