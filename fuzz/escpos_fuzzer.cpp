@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-PrinterSettings printerSettings(const TXConfiguration &configuration)
+PrinterSettings printerOf(const TXConfiguration &configuration)
 {
     const std::optional<PrinterSettings> printer = printerForOutput(configuration, u"printer"_s);
     return printer && !printer->model->isPlainText() ? *printer
@@ -47,7 +47,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     static const TemporaryHome home;
     const FuzzInput input(data, size);
     const TXConfiguration configuration(home.writeFile(u"tavolux.conf"_s, input.companion), u"cfg"_s);
-    const PrinterSettings settings = printerSettings(configuration);
+    const PrinterSettings settings = printerOf(configuration);
     if (!numbersDiffer(settings))
         return 0;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document_profile.h"
 #include "tx_configuration.h"
 
 #include <QXmlAttributes>

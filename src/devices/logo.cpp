@@ -135,6 +135,7 @@ GreyPicture scaledDown(const GreyPicture &picture, int width, int height)
 
 GreyPicture fitted(const GreyPicture &picture, int dots)
 {
+    Q_ASSERT(dots > 0);
     int width = picture.width;
     int height = picture.height;
     if (width > dots) {
