@@ -139,7 +139,7 @@ private Q_SLOTS:
     void showsNoOtherMessages();
 };
 
-// Each xml block is a document, printed with the tavolux-conf block above it; the text block behind it is its
+// Each xml block is a document, printed with the tavolux-conf block above it; the text block after it is its
 // printout. Of the block "xml picture" a picture is shown instead, which the preview's tests compare.
 void PagesTest::printsWhatThePageShows_data()
 {
