@@ -2,6 +2,7 @@
  * A whole document through the plain-text printer. The input is the document and the user's configuration.
  */
 #include "company_printer_driver.h"
+#include "frugal.h"
 #include "fuzzing.h"
 #include "print_document.h"
 #include "print_output.h"
@@ -11,37 +12,9 @@
 #include <QBuffer>
 #include <QStringDecoder>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/*
- * The plain-text printer with little paper: margins and widths may be as large as the configuration likes,
- * which takes time and leads nowhere new.
- */
-class FrugalPrinter : public CompanyPrinterDriver
-{
-public:
-    using CompanyPrinterDriver::CompanyPrinterDriver;
-
-    void startSection() override
-    {
-        for (const auto width : {&DocumentProfile::quantityFieldWidth, &DocumentProfile::priceFieldWidth,
-                                 &DocumentProfile::totalPriceFieldWidth, &DocumentProfile::paperWidth})
-            profile.*width = std::clamp(profile.*width, -enough, enough);
-    }
-
-    void printGeometry(const QXmlAttributes &attributes) override
-    {
-        if (configuration.getStrValue(documentPrefix + DocumentProfile::topMargin).toInt() <= enough)
-            CompanyPrinterDriver::printGeometry(attributes);
-    }
-
-private:
-    static constexpr int enough = 200;
-};
 
 struct Printout
 {
@@ -54,7 +27,7 @@ Printout print(QByteArray document, const TXConfiguration &configuration)
     QByteArray text;
     QBuffer paper(&text);
     paper.open(QIODevice::WriteOnly);
-    FrugalPrinter printer(configuration, std::make_unique<PrintOutput>(paper, u"paper"_s));
+    Frugal<CompanyPrinterDriver> printer(configuration, std::make_unique<PrintOutput>(paper, u"paper"_s));
     QBuffer source(&document);
     const Reading reading = printDocument(source, printer);
     return {text, reading};

@@ -56,6 +56,12 @@ struct GreyPicture
     int width = 0;
     int height = 0;
     std::vector<quint8> greys;
+
+    int grey(int column, int row) const
+    {
+        return greys[static_cast<std::size_t>(row) * static_cast<std::size_t>(width)
+                     + static_cast<std::size_t>(column)];
+    }
 };
 
 /* The bytes of a regular file: a FIFO would wait for a writer. */
@@ -117,10 +123,11 @@ GreyPicture scaledDown(const GreyPicture &picture, int width, int height)
             const int left = x * picture.width / width;
             const int right = (x + 1) * picture.width / width;
             int sum = 0;
+            int count = 0;
             for (int row = top; row < bottom; ++row)
-                for (int column = left; column < right; ++column)
-                    sum += picture.greys[static_cast<std::size_t>(row * picture.width + column)];
-            scaled.greys.push_back(static_cast<quint8>(sum / ((bottom - top) * (right - left))));
+                for (int column = left; column < right; ++column, ++count)
+                    sum += picture.grey(column, row);
+            scaled.greys.push_back(static_cast<quint8>(sum / std::max(count, 1)));
         }
     }
     return scaled;
@@ -128,6 +135,7 @@ GreyPicture scaledDown(const GreyPicture &picture, int width, int height)
 
 GreyPicture fitted(const GreyPicture &picture, int dots)
 {
+    Q_ASSERT(dots > 0);
     int width = picture.width;
     int height = picture.height;
     if (width > dots) {
@@ -138,7 +146,7 @@ GreyPicture fitted(const GreyPicture &picture, int dots)
         width = std::max(1, width * highestLogo / height);
         height = highestLogo;
     }
-    return width == picture.width ? picture : scaledDown(picture, width, height);
+    return width == picture.width && height == picture.height ? picture : scaledDown(picture, width, height);
 }
 
 /* Black or white by the method of Floyd and Steinberg: what a dot is too dark or too light goes to those
@@ -157,7 +165,7 @@ Raster dithered(const GreyPicture &picture, int dots)
     std::vector<int> errorsBelow(width + 2);
     for (int y = 0; y < picture.height; ++y) {
         for (std::size_t x = 0; x < width; ++x) {
-            const int grey = picture.greys[static_cast<std::size_t>(y) * width + x] + errors[x + 1] / 16;
+            const int grey = picture.grey(static_cast<int>(x), y) + errors[x + 1] / 16;
             const bool black = grey < 128;
             const int error = grey - (black ? 0 : 255);
             errors[x + 2] += 7 * error;

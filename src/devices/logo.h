@@ -19,9 +19,9 @@ struct Logo
 };
 
 /*
- * Reads a PNG file for a paper of so many dots across: scaled down to them where it is wider, grey tones
- * dithered, transparent parts white, and in the middle of the paper. Files above 4 MB and pictures of more
- * than 4,096 dots in either direction are not read. The library that reads PNG files is loaded when the first
- * is read.
+ * Reads a PNG file for a paper of so many dots across, at least one: scaled down to them where it is wider,
+ * grey tones dithered, transparent parts white, and in the middle of the paper. Files above 4 MB and pictures
+ * of more than 4,096 dots in either direction are not read. The library that reads PNG files is loaded when
+ * the first is read.
  */
 Logo readLogo(const QString &file, int dots);

@@ -83,10 +83,9 @@ bool setCut(PrinterSettings &settings, const QString &value)
 
 bool setDrawerPin(PrinterSettings &settings, const QString &value)
 {
-    const std::optional<int> pin = number(value, 2, 5);
-    if (pin != 2 && pin != 5)
+    if (value != "2"_L1 && value != "5"_L1)
         return false;
-    settings.drawerPin = *pin;
+    settings.drawerPin = value.toInt();
     return true;
 }
 

@@ -105,9 +105,10 @@ std::span<const Cell> RowEncoder::encode(const StyledLine &line)
     m_cells.clear();
     qsizetype missing = 0; // columns that the layout counted and the cells so far do not fill
     qsizetype begin = 0;
-    for (const auto &[runEnd, style] : line.runs()) {
-        while (begin < runEnd) {
-            const QStringView rest = text.sliced(begin, runEnd - begin);
+    for (const StyledLine::Run &run : line.runs()) {
+        const TextStyle style = run.style;
+        while (begin < run.end) {
+            const QStringView rest = text.sliced(begin, run.end - begin);
             if (const qsizetype fill = missing == 0 ? 0 : fillLength(rest); fill > 0) {
                 const qsizetype filled = std::max<qsizetype>(fill + missing, 1);
                 const char16_t character = rest.front().unicode();

@@ -104,6 +104,7 @@ private Q_SLOTS:
         const Logo logo = readLogo(logoFile("8x4096.png"), 576);
         QCOMPARE(logo.raster.rows, 1024);
         QCOMPARE(blackDots(logo.raster), 2 * 1024);
+        QCOMPARE(readLogo(logoFile("1x4096.png"), 576).raster.rows, 1024);
     }
 
     void faults_data()

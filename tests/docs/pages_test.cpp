@@ -291,6 +291,16 @@ void PagesTest::namesWhatTheSourcesKnow_data()
     QTest::newRow("profiles") << textsInSources(profile, u"\"tavolux\\.(\\w+)\\.\"_L1"_s) << configuration
                               << qsizetype(8);
 
+    QTest::newRow("settings of a printer")
+        << textsInSources({u"src/devices/printer_settings.cpp"_s}, u"\\{\"(\\w+)\"_L1, \"[^\"]+\""_s)
+        << configuration << qsizetype(10);
+    QTest::newRow("code pages") << textsInSources({u"src/devices/code_pages.cpp"_s},
+                                                  u"CodePage::\\w+, \"([\\d-]+)\"_L1"_s)
+                                << QStringList{configuration.first()} << qsizetype(12);
+    QTest::newRow("models of printers")
+        << textsInSources({u"src/devices/printer_models.cpp"_s}, u"\\{\"([\\w-]+)\"_L1,\\s*\"[^\"]+\"_L1,\\s*\\d"_s)
+        << QStringList{u"docs/real-printer.md"_s} << qsizetype(32);
+
     QTest::newRow("methods") << textsInSources({u"src/driver/event_dispatch.cpp"_s},
                                                u"\\{\"(print\\w+)\"_L1,"_s)
                              << format + QStringList{u"docs/man/tavolux-printer.1.in"_s} << qsizetype(13);
