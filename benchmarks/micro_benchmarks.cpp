@@ -42,7 +42,7 @@ BENCHMARK_CAPTURE(descriptionRow, qdpt, u"qdpt"_s);
 BENCHMARK_CAPTURE(descriptionRow, qxdpt, u"qxdpt"_s);
 BENCHMARK_CAPTURE(descriptionRow, dateAmountType, u"date-amount-type"_s);
 
-/* A configuration file of 100 sections with 100 settings each, behind the one section that keys name. */
+/* A configuration file of 100 sections with 100 settings each, after the one section that keys name. */
 class LargeConfiguration
 {
 public:

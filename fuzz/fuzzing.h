@@ -9,7 +9,7 @@
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv);
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-/* An input: a file and, behind its last zero byte, a text that goes with it. */
+/* An input: a file and, after its last zero byte, a text that goes with it. */
 struct FuzzInput
 {
     FuzzInput(const std::uint8_t *data, std::size_t size);

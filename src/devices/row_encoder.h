@@ -16,7 +16,7 @@ class StyledLine
 public:
     struct Run
     {
-        qsizetype end; // behind its last character
+        qsizetype end; // after its last character
         TextStyle style;
     };
 
@@ -50,7 +50,7 @@ struct Cell
  * meaning, such as EUR for the euro sign, else by a question mark. Control characters are question marks.
  *
  * Rows are laid out before that, with a column for each character (UTF-16 code unit). Where the replacement
- * is longer or shorter the next run of dots or blanks of the line makes up for it, so that the amounts behind
+ * is longer or shorter the next run of dots or blanks of the line makes up for it, so that the amounts after
  * stay in their columns. One dot or blank of the run always stays; what cannot be made up for there is left
  * to the run after it.
  */

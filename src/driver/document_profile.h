@@ -26,7 +26,7 @@ struct DocumentProfile
     static DocumentProfile load(const std::function<QString(QLatin1StringView setting)> &value);
 
     // What the other columns of a row leave for the description, negative where they leave nothing: beside
-    // the quantity alone, beside price and amount, the same with a quantity behind which an "x" stands, and
+    // the quantity alone, beside price and amount, the same with a quantity after which an "x" stands, and
     // beside a date and an amount.
     int besideQuantity() const { return paperWidth - quantityFieldWidth - 3; }
     int besideAmounts() const

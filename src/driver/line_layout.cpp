@@ -60,7 +60,7 @@ QString PrinterDriver::descriptionRow(const QString &quantity, const QString &de
     const int priceWidth = profile.priceFieldWidth;
     const int totalWidth = profile.totalPriceFieldWidth;
 
-    // Deliberate: the quantity, and the total behind a price, are padded with blanks whatever the fill; "qd"
+    // Deliberate: the quantity, and the total after a price, are padded with blanks whatever the fill; "qd"
     // and "date-amount-type" end short of the paper.
     if (format == "qdpt"_L1)
         return Row()

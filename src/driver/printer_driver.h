@@ -154,7 +154,7 @@ protected:
     /* Prints the block of tax totals that ends every invoice. */
     void printTaxTotals(const QXmlAttributes &totals);
 
-    /* Prints a label and a value on one line, each behind one blank. */
+    /* Prints a label and a value on one line, each after one blank. */
     void printLabelled(const QString &label, const QString &value);
 
     const TXConfiguration &configuration;

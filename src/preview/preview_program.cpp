@@ -145,7 +145,7 @@ public:
                             .arg(Printout::maximumColumns)};
         }
         if (m_parser.isSet(m_printer) && m_parser.isSet(m_columns))
-            return {{}, u"a printer has its columns: give --printer or --columns"_s};
+            return {{}, u"a printer has its columns: either --printer or --columns"_s};
         task.choice.printer = m_parser.value(m_printer);
         if (m_parser.isSet(m_language))
             task.choice.language = m_parser.value(m_language);

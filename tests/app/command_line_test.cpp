@@ -179,11 +179,11 @@ private Q_SLOTS:
         };
         row("only method", "<method name=\"printNothing\"/>", "");
         row("in lower case", "<method name=\"printfullorderreceipt\"/>", "");
-        row("blank behind the name", "<method name=\"printFullOrderReceipt \"/>", "");
+        row("blank after the name", "<method name=\"printFullOrderReceipt \"/>", "");
         row("empty name", "<method name=\"\"/>", "");
         row("no name", "<method/>", "");
         row("before a known one", "<method name=\"printNothing\"/>" + known, "");
-        row("behind a known one", known + "<method name=\"printNothing\"/>" + known,
+        row("after a known one", known + "<method name=\"printNothing\"/>" + known,
             " Serial Number: 17\n=====\n");
     }
 
@@ -311,7 +311,7 @@ private Q_SLOTS:
         notFound("other name", u"lang/it_IT.qm"_s, byLocale, italian);
         notFound("next to the folder", u"tavolux_it_IT.qm"_s, byLocale, italian);
         notFound("in the folder's name", u"langtavolux_it_IT.qm"_s, byLocale, italian);
-        found("slash behind the folder", u"lang/tavolux_it_IT.qm"_s, "basedir = \"~/lang/\"; file = \"/\";",
+        found("slash after the folder", u"lang/tavolux_it_IT.qm"_s, "basedir = \"~/lang/\"; file = \"/\";",
               italian);
         found("folder relative to the working directory", u"lang/tavolux_it.qm"_s,
               "basedir = lang; file = \"/\";", italian);
@@ -320,7 +320,7 @@ private Q_SLOTS:
         found("file", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en.qm\";");
         found("file without its suffix", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en\";");
         found("file with more in its name", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en_US\";");
-        found("file with more behind a dot", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en.US\";");
+        found("file with more after a dot", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = \"/en.US\";");
         notFound("file with less in its name", u"lang/en_US.qm"_s, "basedir = \"~/lang\"; file = \"/en\";");
         found("joined without a separator", u"langen.qm"_s, "basedir = \"~/lang\"; file = en.qm;");
         notFound("no separator comes between", u"lang/en.qm"_s, "basedir = \"~/lang\"; file = en.qm;");

@@ -98,7 +98,7 @@ private Q_SLOTS:
                              "E\0\x1D!\0",
                              6)
                 + cut);
-        row("a fault behind the root element", total + "<", profile + printers("model = generic-80;"),
+        row("a fault after the root element", total + "<", profile + printers("model = generic-80;"),
             begin + rows.chopped(3) + QByteArray("\x1D!\1", 3) + "*** INCOMPLETE ***\n"
                 + QByteArray("\x1B"
                              "E\0\x1D!\0",

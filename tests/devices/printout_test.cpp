@@ -1,3 +1,4 @@
+#include "escpos_printout.h"
 #include "text_printout.h"
 
 #include "print_document.h"
@@ -32,6 +33,29 @@ Printout printed(const QByteArray &configuration, QByteArray document, int colum
     return printout;
 }
 
+PrinterSettings settingsOf(const QString &model)
+{
+    return PrinterSettings(*findPrinterModel(model));
+}
+
+Printout printedBy(const PrinterSettings &settings, const std::function<void(EscposPrintout &)> &print,
+                   Ending ending = Ending::complete, int copies = 1)
+{
+    Printout printout;
+    EscposPrintout paper(printout, settings);
+    print(paper);
+    paper.end(ending, copies);
+    return printout;
+}
+
+QList<PrintedLine::Kind> kinds(const Printout &printout)
+{
+    QList<PrintedLine::Kind> kinds;
+    for (const PrintedLine &line : printout.lines)
+        kinds.append(line.kind);
+    return kinds;
+}
+
 QByteArray receipt(const QByteArray &elements)
 {
     return "<document><method name=\"printFullOrderReceipt\"/>" + elements + "</document>";
@@ -59,6 +83,13 @@ private Q_SLOTS:
     void theDrawerIsASign();
     void noDocumentOpensTheDrawer();
     void anUnfinishedDocumentIsIncomplete();
+    void escposShowsWhatThePrinterPrints();
+    void escposCutsAndOpensTheDrawerAtTheEnd();
+    void escposMarksWhatIsIncomplete();
+    void escposShowsItsLogo();
+    void escposTellsWhyThereIsNoLogo();
+    void escposPrintsTwiceWhereAskedTo_data();
+    void escposPrintsTwiceWhereAskedTo();
 };
 
 void PrintoutTest::linesAndColumns_data()
@@ -247,6 +278,95 @@ void PrintoutTest::anUnfinishedDocumentIsIncomplete()
     const Printout printout = printed({}, document);
     QCOMPARE(printout.ending, Ending::incomplete);
     QCOMPARE(printout.lines.front().text(), u" Serial Number: 1"_s);
+}
+
+void PrintoutTest::escposShowsWhatThePrinterPrints()
+{
+    // Code page 437 has no euro sign and no Polish l; the missing width is made up for by the dots.
+    const Printout printout = printedBy(settingsOf(u"epson-tm-u220b"_s), [](EscposPrintout &paper) {
+        paper.text(u"\u0141.....5 \u20AC....x", {});
+        paper.text(u"b", {.bold = true, .doubleHeight = true});
+        paper.endLine();
+    });
+    QCOMPARE(printout.columns, 42);
+    const std::vector<PrintedRun> expected{{u"L.....5 EUR..x"_s, 0, 14, false, {}},
+                                           {u"b"_s, 14, 1, false, {.bold = true, .doubleHeight = true}}};
+    QCOMPARE(printout.lines.front().runs, expected);
+    QVERIFY(printout.lines.front().isDoubleHeight());
+}
+
+void PrintoutTest::escposCutsAndOpensTheDrawerAtTheEnd()
+{
+    const auto print = [](EscposPrintout &paper) {
+        paper.openDrawer();
+        paper.text(u"a", {});
+    };
+    using Kind = PrintedLine::Kind;
+    QCOMPARE(kinds(printedBy(settingsOf(u"epson-tm-t88v"_s), print)),
+             (QList{Kind::text, Kind::cut, Kind::drawer}));
+    QCOMPARE(kinds(printedBy(settingsOf(u"pos-5890"_s), print)),
+             (QList{Kind::text, Kind::drawer})); // has no cutter
+}
+
+void PrintoutTest::escposMarksWhatIsIncomplete()
+{
+    const Printout printout = printedBy(
+        settingsOf(u"pos-5890"_s),
+        [](EscposPrintout &paper) {
+            paper.openDrawer();
+            paper.text(u"a", {});
+        },
+        Ending::incomplete);
+    QCOMPARE(printout.text(), u"a\n*** INCOMPLETE ***\n"_s); // and no drawer opens
+    QCOMPARE(kinds(printout).size(), 2);
+}
+
+void PrintoutTest::escposShowsItsLogo()
+{
+    PrinterSettings settings = settingsOf(u"epson-tm-t88v"_s);
+    settings.logoFile = QStringLiteral(TAVOLUX_SOURCE_DIR "/tests/devices/logos/black-and-white.png");
+    const auto print = [](EscposPrintout &paper) { paper.logo(); };
+    const Printout sent = printedBy(settings, print);
+    QCOMPARE(sent.lines.front().kind, PrintedLine::Kind::logo);
+    QVERIFY(sent.logo.rows > 0);
+    QCOMPARE(sent.logo.bytesPerRow, 64); // 512 dots
+
+    settings.storedLogo = 1;
+    const Printout stored = printedBy(settings, print);
+    QCOMPARE(stored.lines.front().kind, PrintedLine::Kind::logo);
+    QCOMPARE(stored.logo.rows, 0);
+}
+
+void PrintoutTest::escposTellsWhyThereIsNoLogo()
+{
+    PrinterSettings settings = settingsOf(u"epson-tm-t88v"_s);
+    settings.logoFile = u"/nowhere/logo.png"_s;
+    const Printout printout = printedBy(settings, [](EscposPrintout &paper) { paper.logo(); });
+    QVERIFY(printout.lines.empty());
+    QVERIFY(!printout.logoFault.isEmpty());
+}
+
+void PrintoutTest::escposPrintsTwiceWhereAskedTo_data()
+{
+    QTest::addColumn<bool>("duplicate");
+    QTest::addColumn<int>("copies");
+    QTest::addColumn<int>("printed");
+    QTest::newRow("duplicates") << true << 2 << 2;
+    QTest::newRow("no duplicates") << false << 2 << 1;
+    QTest::newRow("one copy") << true << 1 << 1;
+}
+
+void PrintoutTest::escposPrintsTwiceWhereAskedTo()
+{
+    QFETCH(const bool, duplicate);
+    QFETCH(const int, copies);
+    QFETCH(const int, printed);
+    PrinterSettings settings = settingsOf(u"epson-tm-t88v"_s);
+    settings.duplicate = duplicate;
+    QCOMPARE(printedBy(
+                 settings, [](EscposPrintout &) {}, Ending::complete, copies)
+                 .copies,
+             printed);
 }
 
 QTEST_GUILESS_MAIN(PrintoutTest)

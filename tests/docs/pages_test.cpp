@@ -139,7 +139,7 @@ private Q_SLOTS:
     void showsNoOtherMessages();
 };
 
-// Each xml block is a document, printed with the tavolux-conf block above it; the text block behind it is its
+// Each xml block is a document, printed with the tavolux-conf block above it; the text block after it is its
 // printout. Of the block "xml picture" a picture is shown instead, which the preview's tests compare.
 void PagesTest::printsWhatThePageShows_data()
 {
@@ -297,9 +297,9 @@ void PagesTest::namesWhatTheSourcesKnow_data()
     QTest::newRow("code pages") << textsInSources({u"src/devices/code_pages.cpp"_s},
                                                   u"CodePage::\\w+, \"([\\d-]+)\"_L1"_s)
                                 << QStringList{configuration.first()} << qsizetype(12);
-    QTest::newRow("models of printers")
-        << textsInSources({u"src/devices/printer_models.cpp"_s}, u"\\{\"([\\w-]+)\"_L1,\\s*\"[^\"]+\"_L1,\\s*\\d"_s)
-        << QStringList{u"docs/real-printer.md"_s} << qsizetype(32);
+    QTest::newRow("models of printers") << textsInSources({u"src/devices/printer_models.cpp"_s},
+                                                          u"\\{\"([\\w-]+)\"_L1,\\s*\"[^\"]+\"_L1,\\s*\\d"_s)
+                                        << QStringList{u"docs/real-printer.md"_s} << qsizetype(32);
 
     QTest::newRow("methods") << textsInSources({u"src/driver/event_dispatch.cpp"_s},
                                                u"\\{\"(print\\w+)\"_L1,"_s)

@@ -32,20 +32,19 @@ void addCommonRows()
                                                       "println|    TOTAL.......................        |",
                                                       "setCharSize",
                                                   });
-    QTest::newRow("customer behind the totals")
-        << "<totals total='123456789.00'/><customer name='Rossi'/>"_ba
-        << calls({
-               "setBold",
-               "println||",
-               "println|    Taxable.....................        |",
-               "println|    TaxRate.....................        |",
-               "println|    Tax.........................        |",
-               "println|    TOTAL.......................123456789.00|",
-               "setCharSize",
-               "println|CUSTOMER|",
-               "println 1|Rossi|",
-               "printSeparatorLine",
-           });
+    QTest::newRow("customer after the totals") << "<totals total='123456789.00'/><customer name='Rossi'/>"_ba
+                                               << calls({
+                                                      "setBold",
+                                                      "println||",
+                                                      "println|    Taxable.....................        |",
+                                                      "println|    TaxRate.....................        |",
+                                                      "println|    Tax.........................        |",
+                                                      "println|    TOTAL.......................123456789.00|",
+                                                      "setCharSize",
+                                                      "println|CUSTOMER|",
+                                                      "println 1|Rossi|",
+                                                      "printSeparatorLine",
+                                                  });
     QTest::newRow("header elements") << "<invoice serialnumber='18'/><printers name='Bar'/>"_ba
                                      << calls({
                                             "print 1|Invoice Number:|",

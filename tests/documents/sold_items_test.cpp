@@ -16,7 +16,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("elements");
         QTest::addColumn<QStringList>("expected");
 
-        QTest::newRow("each item in bold, nothing between and behind them")
+        QTest::newRow("each item in bold, nothing between and after them")
             << "<receipe quantity='12' description='Pizza Margherita' amount='66.00'/>"
                "<receipe quantity='3' description='Tiramisu' amount='13.50'/>"_ba
             << calls({

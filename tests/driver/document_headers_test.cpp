@@ -432,7 +432,7 @@ private Q_SLOTS:
                  }));
     }
 
-    // On a paper of 20, a centred separator stands behind 7 blanks; other texts behind half of 34 less
+    // On a paper of 20, a centred separator stands after 7 blanks; other texts after half of 34 less
     // theirs.
     void onPaper_data()
     {
@@ -474,7 +474,7 @@ private Q_SLOTS:
                                                     "       ====================\n"
                                                     " Table: 4\n"
                                                     "====================\n"_ba;
-        QTest::newRow("company ends centring behind its lines")
+        QTest::newRow("company ends centring after its lines")
             << "<headers/><company name='Da Mario'/><delivery serialnumber='19'/>"_ba
             << "====================\n"
                "                 \n"

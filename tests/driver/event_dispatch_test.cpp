@@ -298,10 +298,10 @@ private Q_SLOTS:
         QTest::newRow("fault in the document")
             << "<order><method name='printFullOrderReceipt'/><notPaid price='1'/></Order>"_ba
             << "\n    Amount not paid: 1\n"_ba;
-        QTest::newRow("fault behind the document")
+        QTest::newRow("fault after the document")
             << "<order><method name='printFullOrderReceipt'/><notPaid price='1'/></order>more"_ba
             << "\n    Amount not paid: 1\n"_ba;
-        QTest::newRow("unknown method behind a known one")
+        QTest::newRow("unknown method after a known one")
             << "<order><method name='printFullOrderReceipt'/><notPaid price='1'/><method name='x'/>"
                "<notPaid price='2'/></order>"_ba
             << "\n    Amount not paid: 1\n"_ba;

@@ -341,7 +341,7 @@ private Q_SLOTS:
         QTest::newRow("0") << "0"_ba << 0;
         QTest::newRow("empty") << ""_ba << 0;
         QTest::newRow("word") << "abc"_ba << 0;
-        QTest::newRow("word behind digits") << "40px"_ba << 0;
+        QTest::newRow("word after digits") << "40px"_ba << 0;
         QTest::newRow("blank between digits") << "4 0"_ba << 0;
         QTest::newRow("fraction") << "40.5"_ba << 0;
         QTest::newRow("hexadecimal") << "0x20"_ba << 0;

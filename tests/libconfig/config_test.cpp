@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         const TemporaryHome home;
         const QString first = home.writeFile(u"first"_s, "s : { k = v; l = w; };");
-        const QString second = home.writeFile(u"second"_s, "s : { k = x; }; } behind");
+        const QString second = home.writeFile(u"second"_s, "s : { k = x; }; } after");
         libconfig::Config config(first, u"cfg"_s);
         config.readFile(second, u"cfg"_s);
         QCOMPARE(config.lookup(u"s.k"_s), u"x"_s);
@@ -185,10 +185,11 @@ private Q_SLOTS:
     {
         QFETCH(const QString, key);
         const TemporaryHome home;
-        const QString file = home.writeFile(u"conf"_s,
-                                            "s : { k = v; t : { z : { k = v; }; a : { deep : { k = v; }; }; };"
-                                            " u : { k = v; }; t : { a : { k = v; }; b : { k = v; }; }; };"
-                                            "other : { c : { k = v; }; };");
+        const QString file =
+            home.writeFile(u"conf"_s,
+                           "s : { k = v; t : { z : { k = v; }; a : { deep : { k = v; }; }; };"
+                           " u : { k = v; }; t : { a : { k = v; }; b : { k = v; }; }; };"
+                           "other : { c : { k = v; }; };");
         QTEST(libconfig::Config(file, u"cfg"_s).sectionNames(key), "names");
         QCOMPARE(libconfig::Config().sectionNames(key), QStringList());
     }

@@ -170,7 +170,7 @@ private Q_SLOTS:
         QCOMPARE(found.load(), threadCount * 100);
     }
 
-    // Behind all threads: the thread sanitizer follows none that is started after a process was.
+    // After all threads: the thread sanitizer follows none that is started after a process was.
     void instanceIsDestroyedWhenTheProcessExits()
     {
         const ProgramResult run = runProgram(QCoreApplication::applicationFilePath(), {leaveLastWords});

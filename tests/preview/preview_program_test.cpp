@@ -45,6 +45,7 @@ private Q_SLOTS:
     void writesToAnyName();
     void saysWhatIsWrong_data();
     void saysWhatIsWrong();
+    void knowsThePrinters();
     void refusesAFullDisk();
     void needsADisplayForAWindow_data();
     void needsADisplayForAWindow();
@@ -108,6 +109,8 @@ void PreviewProgramTest::printsAsAsked_data()
     QTest::newRow("in English") << QStringList{u"--language=en"_s} << " Serial Number: 17\n" + line;
     QTest::newRow("on narrow paper") << QStringList{u"--columns"_s, u"12"_s}
                                      << " Numero prog\nressivo: 17\n============\n============\n======\n"_ba;
+    QTest::newRow("by a model of 32 columns")
+        << QStringList{u"--printer"_s, u"generic-58"_s} << " Numero progressivo: 17\n" + line;
     QTest::newRow("with another configuration")
         << QStringList{u"--file"_s,
                        home.writeFile(u"other.conf"_s, "tavolux : { receiptdoc : { paperWidth = 3; }; };")}
@@ -164,6 +167,9 @@ void PreviewProgramTest::saysWhatIsWrong_data()
         QTest::addRow("columns: %s", columns)
             << QStringList{name, output, u"--columns"_s, QString::fromLatin1(columns)}
             << "'" + QByteArray(columns) + "' is no number of columns: it is 1 to 255" << 2;
+    QTest::newRow("printer and columns")
+        << QStringList{name, output, u"--printer=generic-58"_s, u"--columns=32"_s}
+        << "a printer has its columns: either --printer or --columns"_ba << 2;
     QTest::newRow("unknown language")
         << QStringList{name, output, u"--language=tlh"_s}
         << "there are no labels in the language 'tlh', only in: en, de, es, fr, it, nl, pl, pt"_ba << 2;
@@ -203,6 +209,30 @@ void PreviewProgramTest::saysWhatIsWrong()
     QCOMPARE(result.standardOutput, QByteArray());
     QCOMPARE(result.standardError.split('\n').constFirst(), "tavolux-preview: " + message);
     QCOMPARE(result.exitStatus, status);
+}
+
+void PreviewProgramTest::knowsThePrinters()
+{
+    const QString configured =
+        home.writeFile(u"printers.conf"_s,
+                       "tavolux : { receiptdoc : { printCompany = true; };"
+                       " printers : { till : { model = generic-58; codePages = \"cp437=0\"; }; }; };");
+    const QString company =
+        home.writeFile(u"company.xml"_s,
+                       QByteArray(receipt).replace("<receipt", "<company name=\"5 \xE2\x82\xAC\"/><receipt"));
+    const auto firstLine = [&](const QStringList &options) {
+        const ProgramResult result =
+            run(options + QStringList{u"--format=txt"_s, u"--file"_s, configured, company, u"-"_s});
+        return result.standardOutput.split('\n').constFirst().trimmed();
+    };
+    QCOMPARE(firstLine({}), "5 EUR"); // the configured printer has no euro sign
+    QCOMPARE(firstLine({u"--printer=till"_s}), "5 EUR");
+    QCOMPARE(firstLine({u"--printer=epson-tm-t88v"_s}), "5 \xE2\x82\xAC");
+    QCOMPARE(firstLine({u"--printer=plain-text"_s}), "5 \xE2\x82\xAC");
+
+    const ProgramResult unknown = run({u"--printer=tilt"_s, document, u"-"_s, u"--format=txt"_s});
+    QVERIFY(unknown.standardError.startsWith("tavolux-preview: there is no printer 'tilt', only: "));
+    QCOMPARE(unknown.exitStatus, 2);
 }
 
 void PreviewProgramTest::refusesAFullDisk()

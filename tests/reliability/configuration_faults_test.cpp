@@ -91,7 +91,7 @@ private Q_SLOTS:
         QTest::newRow("NUL bytes between statements")
             << "tavolux : { doc : { " + settings + QByteArray(1000, '\0') + " }; };" << printed;
         // For the toolkit a number ends at a NUL.
-        QTest::newRow("NUL byte behind a number")
+        QTest::newRow("NUL byte after a number")
             << "tavolux : { doc : { quantityFieldWidth = 3" + QByteArray(1, '\0') + "; paperWidth = 20; }; };"
             << printed;
         QTest::newRow("NUL bytes only") << QByteArray(1'000'000, '\0') << rowWithoutSettings();

@@ -106,7 +106,7 @@ void SchemaTest::refuses_data()
     // The method
     row("unknown method", "full-order", "printFullOrder", "printWholeOrder", "method");
     row("method in lower case", "full-receipt", "printFullOrderReceipt", "printfullorderreceipt", "method");
-    row("blank behind the method", "sold-items", "printSold", "printSold ", "method");
+    row("blank after the method", "sold-items", "printSold", "printSold ", "method");
     row("method without a name", "report", R"(<method name="printReport"/>)", "<method/>", "method");
     row("method with a second attribute", "report", R"(name="printReport")",
         R"(name="printReport" copies="2")", "method");
@@ -117,7 +117,7 @@ void SchemaTest::refuses_data()
     // Blocks
     row("misspelt block", "full-receipt", "<geometry/>", "<geometri/>", "geometri");
     row("block in the wrong case", "full-receipt", "<orderinfo", "<orderInfo", "orderInfo");
-    row("block behind the rows", "sold-items", "</document>", "<logo/></document>", "logo");
+    row("block after the rows", "sold-items", "</document>", "<logo/></document>", "logo");
     row("block between two groups", "full-order", "</document>", "<logo/><order/></document>", "logo");
     row("attribute of an empty block", "full-order", "<logo/>", R"(<logo file="logo.png"/>)", "logo");
     row("printer without a name", "full-order", R"(<printers name="Cassa"/>)", "<printers/>", "printers");

@@ -63,6 +63,7 @@ private Q_SLOTS:
         QTest::newRow("one replaced, not two") << u"abcd"_s << QStringList{u"xbcx"_s, u"abcx"_s} << u"abcx"_s;
         QTest::newRow("swapped across one is no swap")
             << u"abcd"_s << QStringList{u"cbad"_s, u"xbcd"_s} << u"xbcd"_s;
+        QTest::newRow("half a swap is none") << u"abcd"_s << QStringList{u"abdx"_s, u"xbcd"_s} << u"xbcd"_s;
         // Less than a third and two letters may differ: of three letters two, of six three.
         QTest::newRow("as far as it goes, of three") << u"abc"_s << QStringList{u"axy"_s} << u"axy"_s;
         QTest::newRow("too far, of three") << u"abc"_s << QStringList{u"xyz"_s} << QString();

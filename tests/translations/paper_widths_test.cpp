@@ -260,7 +260,7 @@ void PaperWidthsTest::firstReceiptHasNoEmptyLines()
     const Language inForce(language);
 
     const QByteArray readme = fileBytes(sourceFolder + "/README.md"_L1);
-    const qsizetype begin = readme.indexOf("```xml\n") + 7;
+    const qsizetype begin = readme.indexOf('\n', readme.indexOf("```xml")) + 1;
     QByteArray xml = readme.sliced(begin, readme.indexOf("```", begin) - begin);
     QVERIFY(xml.contains("<orderinfo"));
     QBuffer document(&xml);

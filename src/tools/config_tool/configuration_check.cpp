@@ -177,10 +177,10 @@ std::optional<int> earlierLine(QHash<QString, int> &lines, const QString &name, 
 class Check
 {
 public:
-    Check(const QString &file, const QString &fileKind, const QByteArray &text)
-        : m_kind(fileKind)
-        , m_scan(scanConfiguration(text, fileKind))
-        , m_configuration(file, fileKind)
+    Check(const QString &file, const QString &kind, const QByteArray &text)
+        : m_kind(kind)
+        , m_scan(scanConfiguration(text, kind))
+        , m_configuration(file, kind)
     {
     }
 

@@ -23,6 +23,11 @@ QString ConfigurationFile::path() const
     return m_path;
 }
 
+QString ConfigurationFile::type() const
+{
+    return m_type;
+}
+
 QString ConfigurationFile::read()
 {
     const FileContent file = readRegularFile(m_path);

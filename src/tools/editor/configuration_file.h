@@ -17,6 +17,7 @@ public:
     ConfigurationFile(const QString &path, const QString &type);
 
     QString path() const;
+    QString type() const;
 
     /* Reads the file and returns an empty text; or returns why there is nothing to edit in it, and keeps what
      * was read before. */

@@ -2,6 +2,7 @@
 
 #include "dialogs.h"
 #include "file_name.h"
+#include "preview_pane.h"
 #include "read_file.h"
 #include "tx_configuration.h"
 
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QSettings>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTreeWidget>
@@ -36,9 +38,10 @@ EditorWindow::EditorWindow(const QString &path, const QString &type, Dialogs &di
     , m_dialogs(dialogs)
     , m_findField(new QLineEdit)
     , m_keyLabel(new QLabel)
+    , m_preview(new PreviewPane)
 {
     setWindowTitle(u"%1[*]"_s.arg(QFileInfo(path).fileName()));
-    resize(640, 560);
+    resize(1000, 640);
 
     auto *findLabel = new QLabel(u"Fi&nd:"_s);
     findLabel->setBuddy(m_findField);
@@ -62,6 +65,8 @@ EditorWindow::EditorWindow(const QString &path, const QString &type, Dialogs &di
     m_keyLabel->setObjectName(u"key"_s);
     m_keyLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     statusBar()->addWidget(m_keyLabel);
+    addDockWidget(Qt::RightDockWidgetArea, m_preview);
+    m_preview->setVisible(QSettings().value(u"preview/shown"_s, true).toBool());
     createActions();
     showTree();
 }
@@ -85,6 +90,8 @@ void EditorWindow::createActions()
         m_findField->setFocus(Qt::ShortcutFocusReason);
         m_findField->selectAll();
     });
+
+    menuBar()->addMenu(u"&View"_s)->addAction(m_preview->toggleViewAction());
 }
 
 void EditorWindow::open()
@@ -104,6 +111,7 @@ void EditorWindow::open()
 void EditorWindow::showTree()
 {
     const bool finding = focusWidget() == m_findField;
+    m_preview->setTree(nullptr, {}); // which goes
     m_view = m_file.view();
     centralWidget()->layout()->addWidget(m_view.get());
     m_view->show(); // the layout shows it later, too late for the focus
@@ -127,7 +135,9 @@ void EditorWindow::showTree()
     connect(m_view.get(), &QTreeWidget::itemActivated, this, &EditorWindow::activate);
     connect(m_view.get(), &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem *item) {
         m_keyLabel->setText(item ? keyOf(item).simplified() : QString());
+        m_preview->refresh();
     });
+    m_preview->setTree(m_view.get(), m_file.type());
     m_unchanged = shownSections(*m_view);
     updateModified();
     m_filter.emplace(*m_view);
@@ -144,6 +154,7 @@ void EditorWindow::commitTypedValue()
 void EditorWindow::updateModified()
 {
     setWindowModified(shownSections(*m_view) != m_unchanged);
+    m_preview->refresh();
 }
 
 bool EditorWindow::save()

@@ -14,6 +14,7 @@ class QLabel;
 class QLineEdit;
 class QTreeWidget;
 class QTreeWidgetItem;
+class PreviewPane;
 
 /*
  * The window of the configuration editor: the store's tree view with a find field above it. It holds no
@@ -55,8 +56,9 @@ private:
     ConfigurationFile m_file;
     Dialogs &m_dialogs;
     libconfig::Section m_unchanged;
-    QLineEdit *m_findField; // owned by the window, like the label
+    QLineEdit *m_findField; // owned by the window, like the two below
     QLabel *m_keyLabel;
+    PreviewPane *m_preview;
     std::unique_ptr<QTreeWidget> m_view;
     std::optional<TreeFilter> m_filter;
 };

@@ -60,6 +60,7 @@ int main(int argc, char *argv[])
     std::signal(SIGXFSZ, SIG_IGN); // a limit on the size of files is reported like a full disk
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCoreApplication::setApplicationName(programName);
+    QCoreApplication::setOrganizationName(u"tavolux"_s); // of the folder with the state of the window
     QCoreApplication::setApplicationVersion(QStringLiteral(TAVOLUX_VERSION));
 
     QCommandLineParser parser;

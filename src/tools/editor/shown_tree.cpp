@@ -3,8 +3,6 @@
 #include <QStringList>
 #include <QTreeWidget>
 
-#include <ranges>
-
 using libconfig::Section;
 
 namespace {
@@ -53,8 +51,8 @@ void expandAll(const QList<QTreeWidgetItem *> &items)
 {
     // What is below a closed item is not laid out, so the last comes first: each opened in view would lay out
     // all.
-    for (QTreeWidgetItem *item : std::views::reverse(items))
-        item->setExpanded(true);
+    for (qsizetype i = items.size() - 1; i >= 0; --i)
+        items[i]->setExpanded(true);
 }
 
 QString keyOf(const QTreeWidgetItem *item)
