@@ -195,6 +195,11 @@ PrinterSettings printerOfName(const TXConfiguration &configuration, const QStrin
     return settings;
 }
 
+bool isOutputPattern(const QString &output)
+{
+    return std::ranges::any_of(output, [](QChar c) { return QStringView(u"*?[\\").contains(c); });
+}
+
 bool fitsOutput(const QStringList &outputs, const QByteArray &path)
 {
     return std::ranges::any_of(outputs, [&](const QString &pattern) {

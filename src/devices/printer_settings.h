@@ -77,6 +77,9 @@ PrinterSettings printerOfName(const TXConfiguration &configuration, const QStrin
 PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name,
                               const SettingFault &tellFault);
 
+/* Whether an output is a pattern, not a name. */
+bool isOutputPattern(const QString &output);
+
 /* Whether a name, in its bytes, is one of the outputs or fits one of their patterns. */
 bool fitsOutput(const QStringList &outputs, const QByteArray &path);
 

@@ -134,19 +134,10 @@ QString suggestion(const QString &name, const QStringList &known)
     return nearest.isEmpty() ? QString() : u"; did you mean %1?"_s.arg(quoted(nearest));
 }
 
-QStringList modelNames()
-{
-    QStringList names;
-    for (const PrinterModel &model : printerModels)
-        names.append(model.name);
-    return names;
-}
-
 /* Whether every file that an output stands for is one of the earlier outputs, as far as that is plain. */
 bool isAmong(const QStringList &earlier, const QString &output)
 {
-    return earlier.contains(output)
-        || (!containsAny(output, u"*?[\\") && fitsOutput(earlier, output.toLatin1()));
+    return earlier.contains(output) || (!isOutputPattern(output) && fitsOutput(earlier, output.toLatin1()));
 }
 
 /* The characters above ASCII that texts have, each once. */
@@ -376,9 +367,9 @@ private:
             return;
         const bool isModel = known.name == "model"_L1;
         add(setting.line,
-            u"%1 is %2, not %3%4"_s.arg(quoted(setting.name), quoted(setting.value),
-                                        QString::fromLatin1(known.expected),
-                                        isModel ? suggestion(setting.value, modelNames()) : QString()));
+            u"%1 is %2, not %3%4"_s.arg(
+                quoted(setting.name), quoted(setting.value), QString::fromLatin1(known.expected),
+                isModel ? suggestion(setting.value, printerModelNames()) : QString()));
     }
 
     void checkSwitch(const Statement &setting)
