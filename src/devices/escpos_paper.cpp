@@ -184,6 +184,19 @@ void EscposPaper::openDrawer()
     m_opensDrawer = true;
 }
 
+void EscposPaper::codePageLine(quint8 page, QStringView text)
+{
+    if (!m_line.text().isEmpty())
+        endLine();
+    use({});
+    usePage(page);
+    CodePageEncoder encoder(m_settings.codePages[page].page);
+    for (const QChar character : text)
+        if (const quint8 byte = encoder.byte(character.unicode()); byte != 0)
+            m_bytes += static_cast<char>(byte);
+    endLine();
+}
+
 void EscposPaper::end(Ending ending, int copies)
 {
     if (!m_line.text().isEmpty())

@@ -45,6 +45,11 @@ public:
     /* The drawer opens at the end, and only of a complete document. */
     void openDrawer() override;
 
+    /* A line of those characters of the text above ASCII that a code page has, printed with that page alone:
+     * for test pages, where text would take any page that has the character. The page is told by its place
+     * in the settings. */
+    void codePageLine(quint8 page, QStringView text);
+
     /* Where the settings ask for duplicates and there are two copies, the whole printout comes twice, and the
      * drawer opens once. A document that printed nothing moves no paper. One that is incomplete ends with a
      * line that says so, and comes once. */

@@ -104,6 +104,14 @@ constexpr QLatin1StringView cutterNames[] = {"none"_L1, "partial"_L1, "full"_L1}
 
 constexpr std::span<const PrinterModel> printerModels = allModels;
 
+QStringList printerModelNames()
+{
+    QStringList names;
+    for (const PrinterModel &model : printerModels)
+        names.append(model.name);
+    return names;
+}
+
 const PrinterModel *findPrinterModel(QStringView name)
 {
     const auto model =

@@ -3,6 +3,7 @@
 #include "code_pages.h"
 
 #include <QLatin1StringView>
+#include <QStringList>
 
 #include <optional>
 #include <span>
@@ -40,6 +41,9 @@ struct PrinterModel
 
 // In the order in which they are shown.
 extern const std::span<const PrinterModel> printerModels;
+
+/* The names of all models. */
+QStringList printerModelNames();
 
 /* The model of a name; null when there is none. */
 const PrinterModel *findPrinterModel(QStringView name);

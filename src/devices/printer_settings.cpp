@@ -134,14 +134,6 @@ constexpr PrinterSetting allSettings[] = {
     {"duplicate"_L1, "true or false", &setDuplicate},
 };
 
-bool fits(const QStringList &outputs, const QByteArray &path)
-{
-    return std::ranges::any_of(outputs, [&](const QString &pattern) {
-        // As for logos, the bytes of the file.
-        return fnmatch(pattern.toLatin1().constData(), path.constData(), 0) == 0;
-    });
-}
-
 QByteArray resolved(const QByteArray &path)
 {
     const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.constData(), nullptr), &std::free);
@@ -181,17 +173,39 @@ QStringList printerNames(const TXConfiguration &configuration)
 
 PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name)
 {
+    return printerOfName(configuration, name,
+                         [](const QString &key, const PrinterSetting &setting, const QString &value) {
+                             printDiagnostic("Error in the setting " + shownFileName(key) + "( "
+                                             + shownFileName(value) + " ): not " + setting.expected);
+                         });
+}
+
+PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name,
+                              const SettingFault &tellFault)
+{
     PrinterSettings settings;
     settings.name = name;
-    for (const auto &[setting, expected, set] : printerSettings) {
-        const QString key = settingKey(name, setting);
+    for (const PrinterSetting &setting : printerSettings) {
+        const QString key = settingKey(name, setting.name);
         const QString value = configuration.getStrValue(key);
-        const bool isMissingModel = value.isEmpty() && set == &setModel;
-        if ((!value.isEmpty() || isMissingModel) && !set(settings, value))
-            printDiagnostic("Error in the setting " + shownFileName(key) + "( " + shownFileName(value)
-                            + " ): not " + expected);
+        const bool isMissingModel = value.isEmpty() && setting.set == &setModel;
+        if ((!value.isEmpty() || isMissingModel) && !setting.set(settings, value))
+            tellFault(key, setting, value);
     }
     return settings;
+}
+
+bool isOutputPattern(const QString &output)
+{
+    return std::ranges::any_of(output, [](QChar c) { return QStringView(u"*?[\\").contains(c); });
+}
+
+bool fitsOutput(const QStringList &outputs, const QByteArray &path)
+{
+    return std::ranges::any_of(outputs, [&](const QString &pattern) {
+        // As for logos, the bytes of the file.
+        return fnmatch(pattern.toLatin1().constData(), path.constData(), 0) == 0;
+    });
 }
 
 std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configuration, const QString &path)
@@ -203,7 +217,7 @@ std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configura
     const QByteArray real = resolved(given);
     for (const QString &name : names) {
         const QStringList outputs = parts(configuration.getStrValue(settingKey(name, "output"_L1)));
-        if (fits(outputs, given) || fits(outputs, real))
+        if (fitsOutput(outputs, given) || fitsOutput(outputs, real))
             return printerOfName(configuration, name);
     }
     return {};

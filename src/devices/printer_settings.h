@@ -2,10 +2,12 @@
 
 #include "printer_models.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -64,9 +66,22 @@ extern const std::span<const PrinterSetting> printerSettings;
 inline constexpr QLatin1StringView printersKey{"tavolux.printers"};
 QStringList printerNames(const TXConfiguration &configuration);
 
-/* The printer of a section. One line is printed on standard output for each value that is not what is
- * expected: the model's value stays and, without a model that is known, the printer is the plain-text one. */
+/* Is told of a value that is not what is expected, or of a model that is missing. */
+using SettingFault =
+    std::function<void(const QString &key, const PrinterSetting &setting, const QString &value)>;
+
+/* The printer of a section. Of a value that is not what is expected the model's stays and, without a model
+ * that is known, the printer is the plain-text one. One line is printed on standard output for each such
+ * value unless something else is to be told of them. */
 PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name);
+PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name,
+                              const SettingFault &tellFault);
+
+/* Whether an output is a pattern, not a name. */
+bool isOutputPattern(const QString &output);
+
+/* Whether a name, in its bytes, is one of the outputs or fits one of their patterns. */
+bool fitsOutput(const QStringList &outputs, const QByteArray &path);
 
 /* The printer of the first section whose outputs fit the path, as it stands or as it is when all links are
  * followed; none without such a section. */

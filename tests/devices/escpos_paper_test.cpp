@@ -119,6 +119,20 @@ void EscposPaperTest::prints_data()
         "another page to the end", [](EscposPaper &paper) { printLine(paper, u"Д"_s); },
         "\x1Bt\x11\x84\n\x1Bt\x13" + fullCut);
     row(
+        "what one code page has", [](EscposPaper &paper) { paper.codePageLine(1, u"aé€Ж"); },
+        "\x1Bt\x10\xE9\x80\n\x1Bt\x13" + fullCut);
+    row(
+        "a code page in a line of bold type",
+        [](EscposPaper &paper) {
+            paper.text(u"a", bold);
+            paper.codePageLine(0, u"é");
+        },
+        QByteArray("\x1B"
+                   "E\1a\n\x1B"
+                   "E\0\x82\n",
+                   10)
+            + fullCut);
+    row(
         "commands in a text", [](EscposPaper &paper) { printLine(paper, u"\u001Bp0\u009B"_s); },
         "?p0?\n" + fullCut);
     row(

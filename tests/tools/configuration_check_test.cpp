@@ -252,6 +252,174 @@ private Q_SLOTS:
                  (QStringList{unknown, u"1: sections nest deeper than 256, so the reading ends here"_s}));
     }
 
+    void printers_data()
+    {
+        QTest::addColumn<QByteArray>("sections"); // the first in line 2
+        QTest::addColumn<QStringList>("findings");
+
+        const QByteArray logos = TAVOLUX_SOURCE_DIR "/tests/devices/logos/";
+        QTest::newRow("nothing to say") << QByteArray(
+            "printers : {\n"
+            "till : { output = \"/dev/usb/lp0, /dev/till*\"; model = epson-tm-t20iii; columns = 42;"
+            "codePages = \"858=19, 1252=16\"; cut = partial; feed = 2; drawerPin = 5; drawerPulse = "
+            "\"100, 200\"; duplicate = true; logo = \""
+            + logos
+            + "black-and-white.png\"; };\n"
+              "kitchen : { output = /dev/usb/lp1; model = generic-58; logo = stored:1; };\n"
+              "proof : { output = \"/tmp/*.txt\"; model = plain-text; };\n};\n"
+              "doc : { paperWidth = 32; };")
+                                        << QStringList();
+        QTest::newRow("empty values count as missing") << QByteArray(
+            "printers : { till : { output = x; model = generic-80; columns = ; logo = \"\"; }; };")
+                                                       << QStringList();
+
+        // Names.
+        QTest::newRow("misspelt section")
+            << QByteArray("printer : { till : { x = y; }; };")
+            << QStringList{
+                   u"2: \"printer\" is no section of \"tavolux\" that is ever read; did you mean \"printers\"?"_s};
+        QTest::newRow("setting beside the printers")
+            << QByteArray("printers : { model = generic-80; };")
+            << QStringList{u"2: \"model\" is no setting of \"tavolux.printers\" that is ever read"_s};
+        QTest::newRow("setting that nobody knows")
+            << QByteArray("printers : { till : { output = x; model = generic-80;\ncolums = 42;\npaperWidth = "
+                          "42; }; };")
+            << QStringList{
+                   u"3: \"colums\" is no setting of \"tavolux.printers.till\" that is ever read; did you mean \"columns\"?"_s,
+                   u"4: \"paperWidth\" is no setting of \"tavolux.printers.till\" that is ever read"_s};
+        QTest::newRow("setting of a printer in a profile")
+            << QByteArray("doc : { model = generic-80; };")
+            << QStringList{u"2: \"model\" is no setting of \"tavolux.doc\" that is ever read"_s};
+        QTest::newRow("section in a printer")
+            << QByteArray("printers : { till : { output = x; model = generic-80;\nlogo : { a = b; }; }; };")
+            << QStringList{u"3: \"logo\" is no section of \"tavolux.printers.till\" that is ever read"_s};
+        QTest::newRow("dot in a name")
+            << QByteArray("printers : { till.1 : { output = x; model = generic-80; }; };")
+            << QStringList{u"2: \"till.1\" is no section of \"tavolux.printers\" that is ever read"_s};
+        QTest::newRow("two names with a dot")
+            << QByteArray("printers.till : { output = x; model = generic-80; };")
+            << QStringList{
+                   u"2: \"printers.till\" is no section of \"tavolux\" that is ever read; did you mean \"printers\"?"_s};
+        QTest::newRow("given twice")
+            << QByteArray("printers : { till : { output = x; };\ntill : { model = generic-80; }; };")
+            << QStringList{
+                   u"3: the section \"tavolux.printers.till\" is given twice, first in line 2; of each setting the first that is not empty counts"_s};
+
+        // Values.
+        QTest::newRow("misspelt model")
+            << QByteArray("printers : { till : { output = x;\nmodel = epson-tm-t20-iii; }; };")
+            << QStringList{
+                   u"3: \"model\" is \"epson-tm-t20-iii\", not the name of a model; did you mean \"epson-tm-t20iii\"?"_s};
+        QTest::newRow("model that is like no other")
+            << QByteArray("printers : { till : { output = x;\nmodel = laser; }; };")
+            << QStringList{u"3: \"model\" is \"laser\", not the name of a model"_s};
+        QTest::newRow("values")
+            << QByteArray("printers : { till : { output = x; model = generic-80;\ncolumns = wide;\ncodePages "
+                          "= 858;\ncut "
+                          "= yes;\nfeed = -1;\ndrawerPin = 3;\ndrawerPulse = 50;\nlogo = "
+                          "stored:0;\nduplicate = 1; }; };")
+            << QStringList{
+                   u"3: \"columns\" is \"wide\", not a number from 1 to 255"_s,
+                   u"4: \"codePages\" is \"858\", not a list of code pages with their numbers"_s,
+                   u"5: \"cut\" is \"yes\", not full, partial or none"_s,
+                   u"6: \"feed\" is \"-1\", not a number from 0 to 255"_s,
+                   u"7: \"drawerPin\" is \"3\", not 2 or 5"_s,
+                   u"8: \"drawerPulse\" is \"50\", not two times from 2 to 510 ms"_s,
+                   u"9: \"logo\" is \"stored:0\", not a PNG file, or stored: with a number from 1 to 255"_s,
+                   u"10: \"duplicate\" is \"1\", not true or false"_s};
+        QTest::newRow("no model")
+            << QByteArray("printers : {\ntill : { output = x; }; };")
+            << QStringList{u"3: \"tavolux.printers.till\" names no model, so it prints plain text"_s};
+        QTest::newRow("no output")
+            << QByteArray("printers : {\ntill : { model = generic-80; }; };")
+            << QStringList{u"3: \"tavolux.printers.till\" names no output, so no document comes to it"_s};
+
+        // Outputs of earlier printers.
+        const auto two = [](const QByteArray &first, const QByteArray &second) {
+            return "printers : {\na : { model = generic-80; output = \"" + first
+                + "\"; };\nb : { model = generic-80; output = \"" + second + "\"; };\n};";
+        };
+        const QStringList neverReached{
+            u"4: no document comes to \"tavolux.printers.b\": the printers before it have all of its outputs"_s};
+        QTest::newRow("the same output") << two("/dev/lp0", "/dev/lp0") << neverReached;
+        QTest::newRow("outputs that fit a pattern")
+            << two("/dev/*", "/dev/lp0, /dev/usb/lp1") << neverReached;
+        QTest::newRow("the same pattern") << two("/dev/lp?", "/dev/lp?") << neverReached;
+        QTest::newRow("one of two outputs") << two("/dev/lp0", "/dev/lp0, /dev/lp1") << QStringList();
+        QTest::newRow("a pattern for what is left") << two("/dev/lp0", "*") << QStringList();
+        QTest::newRow("a pattern with more characters") << two("/dev/lp?", "/dev/lp*") << QStringList();
+
+        // Paper.
+        QTest::newRow("profiles as wide as the printer, and wider")
+            << QByteArray("printers : { till : { model = generic-80; output = x; };\n"
+                          "kitchen : { model = generic-80; output = y; columns = 42; }; };\n"
+                          "doc : {\npaperWidth = 48; };\nreceiptdoc : {\npaperWidth = 49; };")
+            << QStringList{
+                   u"5: \"paperWidth\" is \"48\", more than the 42 columns of the printer \"kitchen\""_s,
+                   u"7: \"paperWidth\" is \"49\", more than the 48 columns of the printer \"till\""_s,
+                   u"7: \"paperWidth\" is \"49\", more than the 42 columns of the printer \"kitchen\""_s};
+        QTest::newRow("plain text has paper of any width") << QByteArray(
+            "printers : { p : { model = plain-text; output = x; }; }; doc : { paperWidth = 80; };")
+                                                           << QStringList();
+        QTest::newRow("room on a printer's own paper, the narrowest")
+            << QByteArray("printers : { a : { model = generic-80; output = x; }; b : { model = generic-58; "
+                          "output = y; };"
+                          "};\ndoc : { quantityFieldWidth = 29; };")
+            << QStringList{
+                   u"3: \"tavolux.doc\" leaves no room for descriptions: of 32 characters in a line the other columns take 32"_s};
+
+        // Logos.
+        const auto logo = [](const QByteArray &model, const QByteArray &file) {
+            return "printers : { till : { output = x; model = " + model + ";\nlogo = \"" + file + "\"; }; };";
+        };
+        QTest::newRow("logo that is missing")
+            << logo("generic-80", "/no/logo.png")
+            << QStringList{u"3: the logo \"/no/logo.png\" is not printed: No such file or directory"_s};
+        QTest::newRow("logo that is no picture")
+            << logo("generic-80", "/dev/null")
+            << QStringList{u"3: the logo \"/dev/null\" is not printed: it is no regular file"_s};
+        QTest::newRow("logo on a printer without pictures")
+            << logo("wincor-th230", "/no/logo.png")
+            << QStringList{u"3: the logo \"/no/logo.png\" is not printed: the printer prints no pictures"_s};
+        QTest::newRow("logo of a plain-text printer, which has none")
+            << logo("plain-text", "/no/logo.png") << QStringList();
+    }
+    void printers()
+    {
+        QFETCH(const QByteArray, sections);
+        QTEST(check(tavolux(sections)), "findings");
+    }
+
+    void labelsOnPrinters_data()
+    {
+        QTest::addColumn<QByteArray>("printer");
+        QTest::addColumn<QByteArray>("catalogue");
+        QTest::addColumn<QStringList>("findings");
+
+        QTest::newRow("a printer with all characters")
+            << QByteArray("model = epson-tm-t20iii;") << QByteArray("pt") << QStringList();
+        QTest::newRow("a printer without tildes")
+            << QByteArray("model = epson-tm-u220b;") << QByteArray("pt")
+            << QStringList{
+                   u"3: the labels have characters that no code page of the printer \"till\" has: \"Ê\" (comes out as \"E\"), \"Õ\" (comes out as \"O\"), \"Ú\" (comes out as \"U\"), \"ã\" (comes out as \"a\")"_s};
+        QTest::newRow("a page that has them")
+            << QByteArray("model = epson-tm-u220b; codePages = \"437=0, 850=2\";") << QByteArray("pt")
+            << QStringList();
+        QTest::newRow("German on the same printer")
+            << QByteArray("model = epson-tm-u220b;") << QByteArray("de") << QStringList();
+        QTest::newRow("plain text") << QByteArray("model = plain-text;") << QByteArray("pl") << QStringList();
+    }
+    void labelsOnPrinters()
+    {
+        QFETCH(const QByteArray, printer);
+        QFETCH(const QByteArray, catalogue);
+        QTEST(check(tavolux("printers : {\ntill : { output = x; " + printer
+                            + " }; };\nlanguage : { basedir = \"" TAVOLUX_BINARY_DIR
+                              "/translations\"; file = \"/tavolux_"
+                            + catalogue + ".qm\"; };")),
+              "findings");
+    }
+
     void xml_data()
     {
         QTest::addColumn<QByteArray>("text");
@@ -285,6 +453,10 @@ private Q_SLOTS:
             << QStringList{u"2: characters outside of Latin-1 are read as question marks: \"€\""_s};
         QTest::newRow("Latin-1 in UTF-8 is well")
             << QByteArray("<tavolux><doc style='\xC3\xB6'/></tavolux>") << QStringList();
+        QTest::newRow("printers")
+            << QByteArray("<tavolux><printers>\n<till output='x' model='generic-81'/></printers></tavolux>")
+            << QStringList{
+                   u"2: \"model\" is \"generic-81\", not the name of a model; did you mean \"generic-80\"?"_s};
         QTest::newRow("no room")
             << QByteArray("<tavolux>\n<doc paperWidth='3'/></tavolux>")
             << QStringList{

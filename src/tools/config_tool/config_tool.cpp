@@ -5,8 +5,11 @@
 #include "file_name.h"
 #include "losses.h"
 #include "nearest_name.h"
+#include "print_output.h"
+#include "printer_settings.h"
 #include "read_file.h"
 #include "starter_configuration.h"
+#include "test_page.h"
 #include "tx_configuration.h"
 #include "write_file.h"
 
@@ -55,9 +58,25 @@ struct Task
     QString file;
     QString kind;
     QString argument; // the command's own, if it takes one
-    int columns;
-    bool force;
+    std::optional<int> columns = {};
+    std::optional<QString> printer = {};
+    std::optional<QString> output = {};
+    bool force = false;
 };
+
+QString suggestion(const QString &name, const QStringList &known)
+{
+    const QString nearest = nearestName(name, known);
+    return nearest.isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(nearest);
+}
+
+QString widthsText()
+{
+    QStringList widths;
+    for (const int width : starterPaperWidths())
+        widths.append(QString::number(width));
+    return widths.join(u'|');
+}
 
 std::optional<QByteArray> textOf(const QString &name)
 {
@@ -159,10 +178,49 @@ ExitStatus check(const Task &task)
     return findings.empty() ? exitSuccess : exitNegative;
 }
 
+/* What a configuration to start from is made for. */
+struct Start
+{
+    int paperWidth = 42;
+    std::optional<StarterPrinter> printer = {};
+};
+
+/* None, with a message, when the options do not go together. */
+std::optional<Start> startFor(const Task &task)
+{
+    const auto refused = [](const QString &message) {
+        refuse(message);
+        return std::nullopt;
+    };
+    Start start;
+    if (task.printer.has_value() != task.output.has_value())
+        return refused(u"init needs --printer and --output together"_s);
+    if (task.printer) {
+        const PrinterModel *const model = findPrinterModel(*task.printer);
+        if (!model)
+            return refused(u"there is no model \"%1\""_s.arg(*task.printer)
+                           + suggestion(*task.printer, printerModelNames()));
+        const QByteArray output = fileNameBytes(*task.output);
+        if (output.trimmed().isEmpty()
+            || std::ranges::any_of(output, [](char c) { return QByteArrayView(";\"\n\r").contains(c); }))
+            return refused(u"the output \"%1\" cannot be written in a configuration"_s.arg(*task.output));
+        start.printer = {model->name, output};
+        start.paperWidth = starterPaperWidth(model->columns);
+        if (!model->isPlainText() && task.columns.value_or(0) > model->columns)
+            return refused(
+                u"the model %1 has %2 columns only"_s.arg(model->name, QString::number(model->columns)));
+    }
+    start.paperWidth = task.columns.value_or(start.paperWidth);
+    return start;
+}
+
 ExitStatus init(const Task &task)
 {
     if (task.kind != "cfg"_L1)
         return refuse(u"a starter configuration is of the kind cfg"_s);
+    const std::optional<Start> start = startFor(task);
+    if (!start)
+        return exitTrouble;
     std::error_code error;
     const std::filesystem::path folder =
         std::filesystem::path(fileNameBytes(task.file).toStdString()).parent_path();
@@ -173,7 +231,7 @@ ExitStatus init(const Task &task)
                                                         qt_error_string(error.value())));
         return exitTrouble;
     }
-    const WriteResult result = createFile(task.file, starterConfiguration(task.columns));
+    const WriteResult result = createFile(task.file, starterConfiguration(start->paperWidth, start->printer));
     if (result.alreadyExists) {
         complain(u"%1 exists already and stays as it is"_s.arg(task.file));
         return exitNegative;
@@ -184,6 +242,72 @@ ExitStatus init(const Task &task)
     }
     print(fileNameBytes(task.file));
     return exitSuccess;
+}
+
+QString codePagesText(const PrinterModel &model)
+{
+    QStringList pages;
+    for (const auto &[page, number] : model.codePages)
+        pages.append(codePageName(page) + u'=' + QString::number(number));
+    return pages.join(", "_L1);
+}
+
+ExitStatus printModels(const Task &)
+{
+    const auto printRow = [](const QString &name, const QString &columns, const QString &dots,
+                             const QString &cut, const QString &raster, const QString &codePages) {
+        const QString row = name.leftJustified(20) + columns.rightJustified(7) + dots.rightJustified(6)
+            + "  "_L1 + cut.leftJustified(9) + raster.leftJustified(10) + codePages;
+        print(row.trimmed().toUtf8());
+    };
+    printRow(u"MODEL"_s, u"COLUMNS"_s, u"DOTS"_s, u"CUT"_s, u"PICTURES"_s, u"CODE PAGES"_s);
+    for (const PrinterModel &model : printerModels)
+        printRow(model.name, QString::number(model.columns),
+                 model.dots > 0 ? QString::number(model.dots) : u"-"_s, cutterName(model.cutter),
+                 model.raster ? u"yes"_s : u"no"_s, model.isPlainText() ? u"-"_s : codePagesText(model));
+    return exitSuccess;
+}
+
+/* The file that a test page of the printer goes to; empty when its settings name none, but only patterns. */
+QString onlyFile(const PrinterSettings &printer)
+{
+    const auto file = std::ranges::find_if_not(printer.outputs, isOutputPattern);
+    return file == printer.outputs.end() ? QString() : fileNameFromBytes(file->toLatin1());
+}
+
+ExitStatus testPage(const Task &task)
+{
+    if (!task.printer)
+        return refuse(u"test-page needs --printer"_s);
+    if (!readSource(task))
+        return exitTrouble;
+    const TXConfiguration configuration(task.file, task.kind);
+    const QStringList names = printerNames(configuration);
+    if (!names.contains(*task.printer)) {
+        complain(u"%1 has no printer \"%2\""_s.arg(task.file, *task.printer)
+                 + suggestion(*task.printer, names));
+        return exitTrouble;
+    }
+    const PrinterSettings printer = printerOfName(
+        configuration, *task.printer,
+        [](const QString &key, const PrinterSetting &setting, const QString &value) {
+            complain(u"%1 is \"%2\", not %3"_s.arg(key, value, QString::fromLatin1(setting.expected)));
+        });
+    if (printer.model->isPlainText()) {
+        complain(
+            u"the printer \"%1\" prints plain text, for which there is no test page"_s.arg(printer.name));
+        return exitTrouble;
+    }
+    const QString file = task.argument.isEmpty() ? onlyFile(printer) : task.argument;
+    if (file.isEmpty()) {
+        complain(u"the printer \"%1\" names no output but patterns; name one as OUT"_s.arg(printer.name));
+        return exitTrouble;
+    }
+    const auto output = file == "-"_L1 ? std::make_unique<PrintOutput>(STDOUT_FILENO, u"standard output"_s)
+                                       : std::make_unique<PrintOutput>(file, PrintOutput::Opening::truncate);
+    printTestPage(printer, *output);
+    output->close();
+    return output->failed() ? exitNegative : exitSuccess;
 }
 
 ExitStatus edit(const Task &task)
@@ -212,9 +336,11 @@ ExitStatus edit(const Task &task)
 struct Command
 {
     QLatin1StringView name;
-    QLatin1StringView argument; // what it takes, as the help calls it; empty: nothing
+    QLatin1StringView argument; // what it takes, as the help calls it; empty: nothing; "[OUT]": if wanted
     QLatin1StringView help;
     ExitStatus (*run)(const Task &);
+
+    constexpr bool needsArgument() const { return !argument.isEmpty() && !argument.startsWith(u'['); }
 };
 
 constexpr Command commands[] = {
@@ -225,6 +351,9 @@ constexpr Command commands[] = {
     {"write-xml"_L1, "OUT"_L1, "write the configuration to OUT, of the kind xml"_L1, writeXml},
     {"check"_L1, ""_L1, "name what the printing program passes over in silence"_L1, check},
     {"init"_L1, ""_L1, "write a complete configuration to start from"_L1, init},
+    {"models"_L1, ""_L1, "list the models of receipt printers"_L1, printModels},
+    {"test-page"_L1, "[OUT]"_L1,
+     "print what shows whether a printer's settings fit, to OUT or the printer"_L1, testPage},
     {"edit"_L1, ""_L1, "edit the configuration in a window"_L1, edit},
 };
 
@@ -233,21 +362,13 @@ QString commandHelp()
     QString help =
         u"Shows, checks, writes and edits a configuration of the document printer.\n\nCommands:\n"_s;
     for (const Command &command : commands)
-        help += u"  %1  %2\n"_s.arg(QString(command.name + u' ' + command.argument).leftJustified(13),
+        help += u"  %1  %2\n"_s.arg(QString(command.name + u' ' + command.argument).leftJustified(15),
                                     command.help);
     return help
         + "\nThe exit status is 0 when all is well, 1 when a value is empty, a check found something, OUT "
           "is not\n"
           "written whole or the file to begin exists, and 2 after wrong usage, when FILE cannot be read or\n"
-          "begun, or when there is no editor or no display for it."_L1;
-}
-
-QString widthsText()
-{
-    QStringList widths;
-    for (const int width : starterPaperWidths())
-        widths.append(QString::number(width));
-    return widths.join(u'|');
+          "begun, has no such printer, or when there is no editor or no display for it."_L1;
 }
 
 const Command *findCommand(const QString &name)
@@ -261,9 +382,7 @@ ExitStatus refuseCommand(const QString &name)
     QStringList known;
     for (const Command &command : commands)
         known.append(command.name);
-    const QString nearest = nearestName(name, known);
-    return refuse(u"there is no command \"%1\""_s.arg(name)
-                  + (nearest.isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(nearest)));
+    return refuse(u"there is no command \"%1\""_s.arg(name) + suggestion(name, known));
 }
 
 ExitStatus runCommand(const QStringList &arguments)
@@ -274,8 +393,15 @@ ExitStatus runCommand(const QStringList &arguments)
     const QCommandLineOption kindOption(u"type"_s, u"What kind of file it is: cfg (the default) or xml."_s,
                                         u"cfg|xml"_s, u"cfg"_s);
     const QCommandLineOption columnsOption(
-        u"columns"_s, u"For init: how many characters the paper is wide, 42 without this option."_s,
-        widthsText(), u"42"_s);
+        u"columns"_s,
+        u"For init: how many characters the paper is wide, without this option as many as the model of --printer has room for, or 42."_s,
+        widthsText());
+    const QCommandLineOption printerOption(
+        u"printer"_s,
+        u"For init: the model of a receipt printer, one of those that models lists. For test-page: the name of the printer, a section of tavolux.printers."_s,
+        u"MODEL|NAME"_s);
+    const QCommandLineOption outputOption(
+        u"output"_s, u"For init: the file or device that the printer of --printer prints."_s, u"FILE"_s);
     const QCommandLineOption forceOption(
         u"force"_s, u"For write and write-xml: write OUT though settings or other text are lost."_s);
     const QCommandLineOption helpOption({u"h"_s, u"help"_s}, u"Shows this help."_s);
@@ -283,7 +409,8 @@ ExitStatus runCommand(const QStringList &arguments)
 
     QCommandLineParser parser;
     parser.setApplicationDescription(commandHelp());
-    parser.addOptions({fileOption, kindOption, columnsOption, forceOption, helpOption, versionOption});
+    parser.addOptions({fileOption, kindOption, columnsOption, printerOption, outputOption, forceOption,
+                       helpOption, versionOption});
     parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s, u"COMMAND [KEY|OUT]"_s);
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
@@ -303,22 +430,32 @@ ExitStatus runCommand(const QStringList &arguments)
     if (!command)
         return refuseCommand(words.first());
     const qsizetype expected = command->argument.isEmpty() ? 1 : 2;
-    if (words.size() < expected)
+    if (words.size() < expected && command->needsArgument())
         return refuse(u"%1 needs %2"_s.arg(command->name, command->argument));
     if (words.size() > expected)
         return refuse(u"%1 does not take \"%2\""_s.arg(command->name, words.at(expected)));
 
     if (parser.value(fileOption).isEmpty())
         return refuse(u"the name of the configuration is empty"_s);
-    const Task task{parser.value(fileOption), parser.value(kindOption), words.value(1),
-                    parser.value(columnsOption).toInt(), parser.isSet(forceOption)};
+    Task task{.file = parser.value(fileOption), .kind = parser.value(kindOption), .argument = words.value(1)};
+    task.force = parser.isSet(forceOption);
+    if (parser.isSet(columnsOption))
+        task.columns = parser.value(columnsOption).toInt();
+    if (parser.isSet(printerOption))
+        task.printer = parser.value(printerOption);
+    if (parser.isSet(outputOption))
+        task.output = parser.value(outputOption);
     if (task.kind != "cfg"_L1 && task.kind != "xml"_L1)
         return refuse(u"the type \"%1\" is neither cfg nor xml"_s.arg(task.kind));
-    if (parser.isSet(columnsOption) && command->run != init)
+    if (task.columns && command->run != init)
         return refuse(u"--columns is for init"_s);
+    if (task.output && command->run != init)
+        return refuse(u"--output is for init"_s);
+    if (task.printer && command->run != init && command->run != testPage)
+        return refuse(u"--printer is for init and test-page"_s);
     if (task.force && command->run != writeCfg && command->run != writeXml)
         return refuse(u"--force is for write and write-xml"_s);
-    if (!starterPaperWidths().contains(task.columns))
+    if (task.columns && !starterPaperWidths().contains(*task.columns))
         return refuse(u"\"%1\" columns are none of %2"_s.arg(parser.value(columnsOption), widthsText()));
     return command->run(task);
 }

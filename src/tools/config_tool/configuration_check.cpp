@@ -1,14 +1,21 @@
 #include "configuration_check.h"
 
+#include "catalogue_texts.h"
 #include "configuration_scan.h"
 #include "document_profile.h"
+#include "escpos_paper.h"
+#include "labels.h"
+#include "logo.h"
 #include "nearest_name.h"
+#include "printer_settings.h"
 #include "quoted.h"
+#include "row_encoder.h"
 #include "tx_configuration.h"
 
 #include <QHash>
 #include <QLocale>
 #include <QMap>
+#include <QSet>
 #include <QStringDecoder>
 #include <QTranslator>
 
@@ -25,10 +32,7 @@ using Kind = Statement::Kind;
 constexpr QLatin1StringView topSection = "tavolux"_L1;
 constexpr QLatin1StringView languageSection = "tavolux.language"_L1;
 
-// Of the plain-text printer, the one there is: what a paperWidth of 0 becomes.
-constexpr int devicePaperWidth = 34;
-
-enum class ValueKind { text, number, onOff };
+enum class ValueKind { text, number, onOff, ofPrinter };
 using KnownSettings = QMap<QString, ValueKind>;
 
 /* A document type's key prefix as the path of its section, without the final dot. */
@@ -50,6 +54,7 @@ const QMap<QString, KnownSettings> &knownSections()
 
         QMap<QString, KnownSettings> known{
             {topSection, {}},
+            {printersKey, {}},
             {languageSection, {{u"basedir"_s, ValueKind::text}, {u"file"_s, ValueKind::text}}}};
         for (const DocumentType &type : documentTypes) {
             KnownSettings &settings = known[sectionPath(type)] = profile;
@@ -61,42 +66,41 @@ const QMap<QString, KnownSettings> &knownSections()
     return sections;
 }
 
+const KnownSettings &knownPrinterSettings()
+{
+    static const auto settings = [] {
+        KnownSettings known;
+        for (const PrinterSetting &setting : printerSettings)
+            known.insert(setting.name, ValueKind::ofPrinter);
+        return known;
+    }();
+    return settings;
+}
+
+/* The settings of a section in another; null when it is never read. */
+const KnownSettings *knownSettings(const QString &parent, const QString &name)
+{
+    if (parent == printersKey)
+        return name.contains(u'.') ? nullptr : &knownPrinterSettings(); // a dot would part its keys
+    const auto section = knownSections().constFind(parent + u'.' + name);
+    return section == knownSections().cend() ? nullptr : &*section;
+}
+
 /* What the tightest rows of a kind of document leave for the description. Fiscal documents have no rows. */
 struct TightestRow
 {
     QLatin1StringView documentType;
-    int (*descriptionWidth)(const DocumentProfile &);
+    int (DocumentProfile::*descriptionWidth)() const;
 };
 
-int besideQuantity(const DocumentProfile &profile)
-{
-    return profile.paperWidth - profile.quantityFieldWidth - 3;
-}
-
-int besideAmounts(const DocumentProfile &profile)
-{
-    return profile.paperWidth - profile.quantityFieldWidth - profile.priceFieldWidth
-        - profile.totalPriceFieldWidth - 1;
-}
-
-int besideMultipliedAmounts(const DocumentProfile &profile)
-{
-    return besideAmounts(profile) - 2;
-}
-
-int besideDateAndAmount(const DocumentProfile &profile)
-{
-    return profile.paperWidth - 15 - profile.priceFieldWidth - 3;
-}
-
 constexpr TightestRow tightestRows[] = {
-    {"order"_L1, besideQuantity},
-    {"prefiscal"_L1, besideAmounts},
-    {"receipt"_L1, besideMultipliedAmounts},
-    {"invoice"_L1, besideMultipliedAmounts},
-    {"delivery"_L1, besideQuantity},
-    {"report"_L1, besideDateAndAmount},
-    {"sold"_L1, besideMultipliedAmounts},
+    {"order"_L1, &DocumentProfile::besideQuantity},
+    {"prefiscal"_L1, &DocumentProfile::besideAmounts},
+    {"receipt"_L1, &DocumentProfile::besideMultipliedAmounts},
+    {"invoice"_L1, &DocumentProfile::besideMultipliedAmounts},
+    {"delivery"_L1, &DocumentProfile::besideQuantity},
+    {"report"_L1, &DocumentProfile::besideDateAndAmount},
+    {"sold"_L1, &DocumentProfile::besideMultipliedAmounts},
 };
 
 bool containsAny(const QString &text, QStringView characters)
@@ -128,6 +132,27 @@ QString suggestion(const QString &name, const QStringList &known)
 {
     const QString nearest = nearestName(name, known);
     return nearest.isEmpty() ? QString() : u"; did you mean %1?"_s.arg(quoted(nearest));
+}
+
+/* Whether every file that an output stands for is one of the earlier outputs, as far as that is plain. */
+bool isAmong(const QStringList &earlier, const QString &output)
+{
+    return earlier.contains(output) || (!isOutputPattern(output) && fitsOutput(earlier, output.toLatin1()));
+}
+
+/* The characters above ASCII that texts have, each once. */
+QString specialCharacters(const QStringList &texts)
+{
+    QSet<QChar> found;
+    for (const QString &text : texts)
+        for (const QChar character : text.normalized(QString::NormalizationForm_C))
+            if (character >= QChar(0x80))
+                found.insert(character);
+    QString sorted;
+    for (const QChar character : std::as_const(found))
+        sorted += character;
+    std::ranges::sort(sorted);
+    return sorted;
 }
 
 /* Notes the line of a name, or returns the one that was noted before. */
@@ -169,6 +194,7 @@ public:
             add(section.line, u"the section %1 is not closed"_s.arg(quoted(section.name)));
         if (m_firstSection.isEmpty())
             add(0, u"there is no section \"tavolux\" with settings in it, so nothing is found"_s);
+        checkPrinters();
         checkColumns();
         checkTranslation();
         std::ranges::stable_sort(m_found, {}, &Finding::line);
@@ -181,7 +207,7 @@ private:
         QString name;
         QString path;
         int line;
-        bool isRead = false; // one of the known sections, where it belongs
+        const KnownSettings *known = nullptr; // what it may hold; null for a section that is never read
         bool holdsStatements = false;
         QHash<QString, int> sectionLines = {};
         QHash<QString, int> settingLines = {};
@@ -232,7 +258,7 @@ private:
             add(section.line, u"no opening brace follows the section %1"_s.arg(quoted(section.name)));
         else if (section.name.isEmpty())
             add(section.line, u"a section without a name is never read"_s);
-        else if (isLegible(section.line, section.name) && !m_open.empty() && m_open.back().isRead)
+        else if (isLegible(section.line, section.name) && !m_open.empty() && m_open.back().known)
             checkSection(section);
         if (statement.complete)
             m_open.push_back(section);
@@ -260,8 +286,9 @@ private:
             return;
         }
         m_firstSection = section.name;
-        section.isRead = section.name == topSection;
-        if (!section.isRead)
+        if (section.name == topSection)
+            section.known = &*knownSections().constFind(topSection);
+        else
             add(section.line,
                 u"the first section is %1, not \"tavolux\", so nothing in the file is found"_s.arg(
                     quoted(section.name)));
@@ -271,12 +298,11 @@ private:
     void checkSection(OpenSection &section)
     {
         OpenSection &parent = m_open.back();
-        const QMap<QString, KnownSettings> &known = knownSections();
         section.path = parent.path + u'.' + section.name;
-        section.isRead = known.contains(section.path);
-        if (!section.isRead) {
+        section.known = knownSettings(parent.path, section.name);
+        if (!section.known) {
             QStringList names;
-            for (auto path = known.keyBegin(); path != known.keyEnd(); ++path)
+            for (auto path = knownSections().keyBegin(); path != knownSections().keyEnd(); ++path)
                 if (path->startsWith(parent.path + u'.'))
                     names.append(path->sliced(parent.path.size() + 1));
             add(section.line,
@@ -307,11 +333,11 @@ private:
             return;
         }
         checkCharacters(setting.line, setting.value);
-        if (!legible || m_open.empty() || !m_open.back().isRead)
+        if (!legible || m_open.empty() || !m_open.back().known)
             return;
 
         OpenSection &section = m_open.back();
-        const KnownSettings &known = knownSections()[section.path];
+        const KnownSettings &known = *section.known;
         const auto valueKind = known.constFind(setting.name);
         if (valueKind == known.cend()) {
             add(setting.line,
@@ -328,6 +354,22 @@ private:
             checkSwitch(setting);
         else if (*valueKind == ValueKind::number)
             checkNumber(setting);
+        else if (*valueKind == ValueKind::ofPrinter)
+            checkPrinterSetting(setting);
+    }
+
+    void checkPrinterSetting(const Statement &setting)
+    {
+        const PrinterSetting &known =
+            *std::ranges::find(printerSettings, setting.name, &PrinterSetting::name);
+        PrinterSettings printer;
+        if (setting.value.isEmpty() || known.set(printer, setting.value)) // an empty one counts as missing
+            return;
+        const bool isModel = known.name == "model"_L1;
+        add(setting.line,
+            u"%1 is %2, not %3%4"_s.arg(
+                quoted(setting.name), quoted(setting.value), QString::fromLatin1(known.expected),
+                isModel ? suggestion(setting.value, printerModelNames()) : QString()));
     }
 
     void checkSwitch(const Statement &setting)
@@ -376,8 +418,92 @@ private:
         return m_configuration.getStrValue(section + u'.' + setting);
     }
 
+    void checkPrinters()
+    {
+        QStringList names = printerNames(m_configuration);
+        names.removeDuplicates();
+        QStringList earlierOutputs;
+        for (const QString &name : std::as_const(names)) {
+            const QString section = printersKey + u'.' + name;
+            const auto line = m_lineOf.constFind(section);
+            if (line == m_lineOf.cend())
+                continue; // named already
+            const PrinterSettings printer =
+                printerOfName(m_configuration, name, [](auto &&...) { /* told with their lines */ });
+            if (value(section, "model"_L1).isEmpty())
+                add(*line, u"%1 names no model, so it prints plain text"_s.arg(quoted(section)));
+            if (value(section, "output"_L1).isEmpty())
+                add(*line, u"%1 names no output, so no document comes to it"_s.arg(quoted(section)));
+            else if (std::ranges::all_of(printer.outputs, [&](const QString &output) {
+                         return isAmong(earlierOutputs, output);
+                     }))
+                add(*line,
+                    u"no document comes to %1: the printers before it have all of its outputs"_s.arg(
+                        quoted(section)));
+            earlierOutputs += printer.outputs;
+            if (printer.model->isPlainText())
+                continue;
+            m_receiptPrinters.push_back(printer);
+            checkProfileWidths(printer);
+            checkLogo(printer, section);
+        }
+    }
+
+    void checkProfileWidths(const PrinterSettings &printer)
+    {
+        for (const DocumentType &type : documentTypes) {
+            const QString section = sectionPath(type);
+            const QString width = value(section, "paperWidth"_L1);
+            if (width.toInt() > printer.columns)
+                add(m_lineOf.value(section + ".paperWidth"_L1),
+                    u"\"paperWidth\" is %1, more than the %2 columns of the printer %3"_s.arg(
+                        quoted(width), QString::number(printer.columns), quoted(printer.name)));
+        }
+    }
+
+    void checkLogo(const PrinterSettings &printer, const QString &section)
+    {
+        if (printer.storedLogo > 0 || printer.logoFile.isEmpty())
+            return;
+        if (const QString fault = EscposPaper::logoOf(printer).fault; !fault.isEmpty())
+            add(m_lineOf.value(section + ".logo"_L1),
+                u"the logo %1 is not printed: %2"_s.arg(quoted(value(section, "logo"_L1)), fault));
+    }
+
+    void checkLabels(const PrinterSettings &printer, const QString &characters)
+    {
+        std::vector<CodePageEncoder> pages;
+        for (const CodePage page : printer.pages())
+            pages.emplace_back(page);
+        RowEncoder encoder(printer.pages());
+        QStringList replaced;
+        for (const QChar character : characters) {
+            const auto has = [&](CodePageEncoder &page) { return page.byte(character.unicode()) != 0; };
+            if (std::ranges::any_of(pages, has))
+                continue;
+            StyledLine line;
+            line.append(QStringView(&character, 1), {});
+            QString shown;
+            for (const Cell &cell : encoder.encode(line))
+                shown += QChar(cell.shown);
+            replaced.append(u"%1 (comes out as %2)"_s.arg(quoted(character), quoted(shown)));
+        }
+        if (!replaced.isEmpty())
+            add(m_lineOf.value(printersKey + u'.' + printer.name),
+                u"the labels have characters that no code page of the printer %1 has: %2"_s.arg(
+                    quoted(printer.name), replaced.join(", "_L1)));
+    }
+
+    // What a paperWidth of 0 becomes on the narrowest printer.
+    int narrowestPaper() const
+    {
+        const auto narrowest = std::ranges::min_element(m_receiptPrinters, {}, &PrinterSettings::columns);
+        return narrowest == m_receiptPrinters.end() ? plainTextModel().columns : narrowest->columns;
+    }
+
     void checkColumns()
     {
+        const int devicePaperWidth = narrowestPaper();
         for (const auto &[typeName, descriptionWidth] : tightestRows) {
             const QString section =
                 sectionPath(*std::ranges::find(documentTypes, typeName, &DocumentType::name));
@@ -385,7 +511,7 @@ private:
                 DocumentProfile::load([&](QLatin1StringView setting) { return value(section, setting); });
             if (profile.paperWidth == 0)
                 profile.paperWidth = devicePaperWidth;
-            if (const int width = descriptionWidth(profile); width <= 0)
+            if (const int width = (profile.*descriptionWidth)(); width <= 0)
                 add(m_lineOf.value(section),
                     u"%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3"_s
                         .arg(quoted(section), QString::number(profile.paperWidth),
@@ -404,14 +530,18 @@ private:
             || (byLocale && (locale.language() == QLocale::English || locale.language() == QLocale::C)))
             return;
 
-        // As the printing program loads it.
         QTranslator translator;
         const QString name = basedir + (byLocale ? "/tavolux_"_L1 + locale.name() : file);
         if (swallowsStatements(name))
             return; // named already
-        if (!translator.load(name))
-            add(m_lineOf.value(languageSection + ".file"_L1, m_lineOf.value(languageSection + ".basedir"_L1)),
-                u"the translation \"%1\" is not found"_s.arg(name));
+        if (loadLabels(translator, m_configuration)) {
+            const QString characters = specialCharacters(catalogueTexts(translator.filePath()));
+            for (const PrinterSettings &printer : m_receiptPrinters)
+                checkLabels(printer, characters);
+            return;
+        }
+        add(m_lineOf.value(languageSection + ".file"_L1, m_lineOf.value(languageSection + ".basedir"_L1)),
+            u"the translation \"%1\" is not found"_s.arg(name));
     }
 
     const QString m_kind;
@@ -420,6 +550,7 @@ private:
     std::vector<Finding> m_found;
     std::vector<OpenSection> m_open;
     QString m_firstSection;
+    std::vector<PrinterSettings> m_receiptPrinters;
     QHash<QString, int> m_lineOf; // of sections that are read and of their settings, by path
 };
 

@@ -66,7 +66,16 @@ QList<int> starterPaperWidths()
     return widths;
 }
 
-QByteArray starterConfiguration(int paperWidth)
+int starterPaperWidth(int columns)
+{
+    int fitting = columnsByPaper[0].paper;
+    for (const Columns &known : columnsByPaper)
+        if (known.paper <= columns)
+            fitting = known.paper;
+    return fitting;
+}
+
+QByteArray starterConfiguration(int paperWidth, const std::optional<StarterPrinter> &printer)
 {
     const auto *const columns = std::ranges::find(columnsByPaper, paperWidth, &Columns::paper);
     Q_ASSERT(columns != std::end(columnsByPaper));
@@ -76,7 +85,13 @@ QByteArray starterConfiguration(int paperWidth)
         text += "        " + QByteArray(name.data(), name.size()) + " = " + value + ";\n";
     };
 
-    text += "tavolux : {\n    language : {\n";
+    text += "tavolux : {\n";
+    // Deliberate: before all else. The editor saves the sections of any other place below the first section.
+    if (printer)
+        text += "    printers : {\n        till : { model = "
+            + QByteArray(printer->model.data(), printer->model.size()) + "; output = \"" + printer->output
+            + "\"; };\n    };\n\n";
+    text += "    language : {\n";
     addSetting("basedir"_L1, "\"" TAVOLUX_TRANSLATIONS_DIR "\"");
     addSetting("file"_L1, "\"/\"");
     text += "    };\n";
