@@ -213,10 +213,9 @@ void PreviewProgramTest::saysWhatIsWrong()
 
 void PreviewProgramTest::knowsThePrinters()
 {
-    const QString configured =
-        home.writeFile(u"printers.conf"_s,
-                       "tavolux : { receiptdoc : { printCompany = true; };"
-                       " printers : { till : { model = generic-58; codePages = \"cp437=0\"; }; }; };");
+    const QString configured = home.writeFile(u"printers.conf"_s,
+                                              "tavolux : { receiptdoc : { printCompany = true; };"
+                                              " printers : { till : { model = epson-tm-u220b; }; }; };");
     const QString company =
         home.writeFile(u"company.xml"_s,
                        QByteArray(receipt).replace("<receipt", "<company name=\"5 \xE2\x82\xAC\"/><receipt"));
