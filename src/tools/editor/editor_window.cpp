@@ -114,6 +114,7 @@ void EditorWindow::showTree()
     m_preview->setTree(nullptr, {}); // which goes
     m_view = m_file.view();
     centralWidget()->layout()->addWidget(m_view.get());
+    setTabOrder(m_findField, m_view.get()); // a new widget comes after the preview otherwise
     m_view->show(); // the layout shows it later, too late for the focus
     if (!finding)
         m_view->setFocus();
