@@ -3,6 +3,7 @@
 #include "escpos_decoder.h"
 #include "print_output.h"
 #include "printer_settings.h"
+#include "temporary_home.h"
 
 #include <QBuffer>
 #include <QTest>
@@ -47,6 +48,8 @@ class TestPageTest : public QObject
 private Q_SLOTS:
     void page();
     void everyCodePage();
+    void charactersAreThoseOfTheManual_data();
+    void charactersAreThoseOfTheManual();
     void logo_data();
     void logo();
     void everyModel_data();
@@ -109,6 +112,29 @@ void TestPageTest::everyCodePage()
                      u"line \"codePages: 858=19\""_s, u"code page 19 (858)"_s,
                      u"line \"€£°§àèéìòùáíóúñçâêîôûäöüÄÖÜßãõåæøÓ¿¡┌─┐█\""_s, u"line \"\""_s,
                      u"code page 16 (1252)"_s, u"line \"No logo\""_s}));
+}
+
+void TestPageTest::charactersAreThoseOfTheManual_data()
+{
+    QTest::addColumn<QString>("page");
+    for (const char *page :
+         {"437", "850", "852", "858", "866", "1250", "1251", "1252", "1253", "1254", "1257", "8859-15"})
+        QTest::newRow(page) << QString::fromLatin1(page);
+}
+
+void TestPageTest::charactersAreThoseOfTheManual()
+{
+    QFETCH(const QString, page);
+    static const QString manual =
+        QString::fromUtf8(fileBytes(QStringLiteral(TAVOLUX_SOURCE_DIR "/docs/real-printer.md")));
+    const QString characters = manual.section("\n| "_L1 + page + " | `"_L1, 1).section(u'`', 0, 0);
+    QVERIFY(!characters.isEmpty());
+
+    PrinterSettings settings = till(u"generic-80");
+    settings.codePages = {{*codePageOfName(page), 1}};
+    const DecodedPrintout printout = printed(settings);
+    QCOMPARE(printout.fault, QString());
+    QVERIFY2(printout.lines().contains(characters), qPrintable(printout.lines().join(u'\n')));
 }
 
 void TestPageTest::logo_data()

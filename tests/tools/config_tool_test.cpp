@@ -1,3 +1,4 @@
+#include "escpos_decoder.h"
 #include "program_run.h"
 #include "temporary_home.h"
 
@@ -50,8 +51,9 @@ private Q_SLOTS:
         QCOMPARE(result.exitStatus, 0);
         QCOMPARE(result.standardError, "");
         for (const char *text :
-             {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "init", "edit", "--file <FILE>",
-              "--type <cfg|xml>", "--columns <32|40|42|48>", "--force", "--help", "--version"})
+             {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "init", "models", "test-page [OUT]",
+              "edit", "--file <FILE>", "--type <cfg|xml>", "--columns <32|40|42|48>",
+              "--printer <MODEL|NAME>", "--output <FILE>", "--force", "--help", "--version"})
             QVERIFY2(result.standardOutput.contains(text), text);
     }
 
@@ -97,6 +99,36 @@ private Q_SLOTS:
                                              << QByteArray("\"41\" columns are none of 32|40|42|48");
         QTest::newRow("columns that are no number") << QStringList{u"init"_s, u"--columns"_s, u"wide"_s}
                                                     << QByteArray("\"wide\" columns are none of 32|40|42|48");
+        QTest::newRow("printer where it means nothing") << QStringList{u"check"_s, u"--printer"_s, u"till"_s}
+                                                        << QByteArray("--printer is for init and test-page");
+        QTest::newRow("output where it means nothing")
+            << QStringList{u"test-page"_s, u"--printer"_s, u"till"_s, u"--output"_s, u"x"_s}
+            << QByteArray("--output is for init");
+        QTest::newRow("init with a printer alone")
+            << QStringList{u"init"_s, u"--printer"_s, u"generic-80"_s}
+            << QByteArray("init needs --printer and --output together");
+        QTest::newRow("init with an output alone")
+            << QStringList{u"init"_s, u"--output"_s, u"/dev/lp0"_s}
+            << QByteArray("init needs --printer and --output together");
+        const auto initWith = [](const QString &model, const QString &output) {
+            return QStringList{u"init"_s, u"--printer"_s, model, u"--output"_s, output};
+        };
+        QTest::newRow("init with a misspelt model")
+            << initWith(u"epson-tm-t20-iii"_s, u"x"_s)
+            << QByteArray("there is no model \"epson-tm-t20-iii\"; did you mean \"epson-tm-t20iii\"?");
+        QTest::newRow("init with a model like no other")
+            << initWith(u"laser"_s, u"x"_s) << QByteArray("there is no model \"laser\"");
+        QTest::newRow("init with an empty output")
+            << initWith(u"generic-80"_s, u" "_s)
+            << QByteArray("the output \" \" cannot be written in a configuration");
+        QTest::newRow("init with an output that would end early")
+            << initWith(u"generic-80"_s, u"a;b"_s)
+            << QByteArray("the output \"a;b\" cannot be written in a configuration");
+        QTest::newRow("init with more columns than the printer has")
+            << initWith(u"generic-58"_s, u"x"_s) + QStringList{u"--columns"_s, u"40"_s}
+            << QByteArray("the model generic-58 has 32 columns only");
+        QTest::newRow("test page of no printer")
+            << QStringList{u"test-page"_s} << QByteArray("test-page needs --printer");
         QTest::newRow("init of the other kind") << QStringList{u"init"_s, u"--type"_s, u"xml"_s}
                                                 << QByteArray("a starter configuration is of the kind cfg");
     }
@@ -433,6 +465,143 @@ private Q_SLOTS:
         QCOMPARE(result.standardError,
                  "tavolux-config: " + userFile().toLatin1() + " exists already and stays as it is\n");
         QCOMPARE(fileBytes(userFile()), configurationText);
+    }
+
+    void beginWithAPrinter_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QByteArray>("width");
+        QTest::newRow("48 columns") << u"epson-tm-t20iii"_s << QStringList() << QByteArray("48");
+        QTest::newRow("44 columns") << u"hp-a779"_s << QStringList() << QByteArray("42");
+        QTest::newRow("42 columns") << u"epson-tm-t88v"_s << QStringList() << QByteArray("42");
+        QTest::newRow("36 columns") << u"seiko-rp-f10-58"_s << QStringList() << QByteArray("32");
+        QTest::newRow("32 columns") << u"generic-58"_s << QStringList() << QByteArray("32");
+        QTest::newRow("fewer than it has")
+            << u"generic-80"_s << QStringList{u"--columns"_s, u"40"_s} << QByteArray("40");
+    }
+    void beginWithAPrinter()
+    {
+        QFETCH(const QString, model);
+        QFETCH(const QStringList, options);
+        QFETCH(const QByteArray, width);
+        const QString output = u"/dev/till, /dev/usb/lp\u00E4*"_s;
+        const ProgramResult result =
+            run(QStringList{u"init"_s, u"--printer"_s, model, u"--output"_s, output} + options);
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(run({u"get"_s, u"tavolux.solddoc.paperWidth"_s}).standardOutput, width + '\n');
+        QVERIFY(
+            fileBytes(userFile())
+                .startsWith(
+                    "tavolux : {\n    printers : {\n        till : { model = " + model.toLatin1()
+                    + "; output = \"/dev/till, /dev/usb/lp\xC3\xA4*\"; };\n    };\n\n    language : {\n"));
+    }
+
+    void models()
+    {
+        const ProgramResult result = run({u"models"_s});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardError, "");
+        const QList<QByteArray> rows = result.standardOutput.split('\n');
+        QCOMPARE(rows.size(), 34); // titles, 32 models and the end
+        QCOMPARE(rows.first(), "MODEL               COLUMNS  DOTS  CUT      PICTURES  CODE PAGES");
+        for (const char *row :
+             {"epson-tm-u220b           42   400  partial  no        437=0",
+              "citizen-ct-s310ii        48   576  full     yes       1252=16, 852=6, 866=7, 437=0",
+              "hp-a779                  44     -  full     yes       858=6, 1252=8, 852=2, 866=7, 1251=13, "
+              "850=1, 437=0",
+              "zj-5870                  32   384  none     yes       1252=16, 852=18, 866=17, 850=2, 437=0",
+              "plain-text               34     -  none     no        -"})
+            QVERIFY2(rows.contains(row), row);
+    }
+
+    void testPage_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<QStringList>("out");
+        QTest::addColumn<QString>("file"); // that is printed; none: standard output
+        QTest::newRow("to the printer") << QByteArray("DIR/lp0") << QStringList() << u"lp0"_s;
+        QTest::newRow("to its first name")
+            << QByteArray("DIR/lp*, DIR/lp1, DIR/lp2") << QStringList() << u"lp1"_s;
+        QTest::newRow("elsewhere") << QByteArray("DIR/lp0") << QStringList{u"DIR/page"_s} << u"page"_s;
+        QTest::newRow("to standard output") << QByteArray("DIR/lp*") << QStringList{u"-"_s} << QString();
+    }
+    void testPage()
+    {
+        QFETCH(QByteArray, output);
+        QFETCH(QStringList, out);
+        QFETCH(const QString, file);
+        output.replace("DIR", home->path().toLatin1());
+        out.replaceInStrings(u"DIR"_s, home->path());
+        home->writeConfiguration("tavolux : { printers : { kitchen : { output = x; model = generic-80; };\n"
+                                 "till : { model = citizen-ct-s310ii; logo = /no/logo.png; output = \""
+                                 + output + "\"; }; }; };");
+        const ProgramResult result = run(QStringList{u"test-page"_s, u"--printer"_s, u"till"_s} + out);
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(result.exitStatus, 0);
+        const QByteArray page = file.isEmpty() ? result.standardOutput : fileBytes(home->filePath(file));
+        const DecodedPrintout printed =
+            decodeEscpos(page, {{{16, u"1252"_s}, {6, u"852"_s}, {7, u"866"_s}, {0, u"437"_s}}, 16, 48});
+        QCOMPARE(printed.fault, QString());
+        QVERIFY(printed.lines().contains("till: citizen-ct-s310ii"_L1));
+        QVERIFY(printed.lines().contains("is not printed: No such file or directory"_L1));
+        QCOMPARE(printed.widestLine, 48);
+        QCOMPARE(printed.cuts, 1);
+        QCOMPARE(printed.pulses, 1);
+        if (!file.isEmpty())
+            QCOMPARE(result.standardOutput, "");
+    }
+
+    void testPageFails_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitStatus");
+        QTest::addColumn<QByteArray>("standardOutput");
+        QTest::addColumn<QByteArray>("standardError");
+        const auto row = [](const char *name, const QStringList &arguments, int exitStatus,
+                            const QByteArray &standardOutput, const QByteArray &standardError) {
+            QTest::newRow(name) << arguments << exitStatus << standardOutput << standardError;
+        };
+        row("misspelt printer", {u"tlil"_s}, 2, "", "FILE has no printer \"tlil\"; did you mean \"till\"?\n");
+        row("unknown printer", {u"cellar"_s}, 2, "", "FILE has no printer \"cellar\"\n");
+        row("plain text", {u"proof"_s, u"-"_s}, 2, "",
+            "the printer \"proof\" prints plain text, for which there is no test page\n");
+        row("unknown model", {u"old"_s, u"-"_s}, 2, "",
+            "tavolux.printers.old.model is \"laser\", not the name of a model\n"
+            "tavolux-config: the printer \"old\" prints plain text, for which there is no test page\n");
+        row("patterns alone", {u"any"_s}, 2, "",
+            "the printer \"any\" names no output but patterns; name one as OUT\n");
+        row("full device", {u"till"_s, u"/dev/full"_s}, 1,
+            "Error in the method PrinterDriver::print( /dev/full ): No space left on device\n", "");
+    }
+    void testPageFails()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(QByteArray, standardError);
+        home->writeConfiguration("tavolux : { printers : {"
+                                 "till : { output = x; model = generic-80; };"
+                                 "any : { output = \"/dev/lp?\"; model = generic-80; };"
+                                 "old : { output = y; model = laser; };"
+                                 "proof : { output = z; model = plain-text; }; }; };");
+        const ProgramResult result = run(QStringList{u"test-page"_s, u"--printer"_s} + arguments);
+        QTEST(result.exitStatus, "exitStatus");
+        QTEST(result.standardOutput, "standardOutput");
+        standardError.replace("FILE", userFile().toLatin1());
+        QCOMPARE(result.standardError, standardError.isEmpty() ? "" : "tavolux-config: " + standardError);
+    }
+
+    // The value of a setting that is no use is told, and the page shows the model's.
+    void testPageTellsOfSettings()
+    {
+        home->writeConfiguration(
+            "tavolux : { printers : { till : { output = x; model = generic-80; columns = wide; }; }; };");
+        const ProgramResult result = run({u"test-page"_s, u"--printer"_s, u"till"_s, u"-"_s});
+        QCOMPARE(result.exitStatus, 0);
+        QCOMPARE(result.standardError,
+                 "tavolux-config: tavolux.printers.till.columns is \"wide\", not a number from 1 to 255\n");
+        QVERIFY(result.standardOutput.startsWith("\x1B@"));
+        QVERIFY(result.standardOutput.contains("\ncolumns = 48\n"));
     }
 
     void beginElsewhere()

@@ -78,6 +78,22 @@ void EditorSavePreviewTest::tellsWhatSavingChanges_data()
         << cfg << QByteArray("r : { s : { a = 1; }; s : { t : { c = 3; }; }; };") << unedited << QString()
         << cfg << QStringList{u"The section r.s.t moves into r.s."_s, u"The section r.s is lost."_s};
 
+    const QByteArray printers = "printers : { till : { output = \"/dev/usb/lp0\"; model = generic-80; };"
+                                "kitchen : { output = \"/dev/lp*\"; model = generic-58; }; };";
+    const QByteArray language = "language : { file = \"/\"; };";
+    QTest::newRow("printers before all else stay")
+        << cfg << "tavolux : {" + printers + language + "};" << unedited << QString() << cfg << QStringList();
+    QTest::newRow("code pages of a printer")
+        << cfg << "tavolux : {" + printers + language + "};" << u"tavolux.printers.till.model"_s
+        << u"858=19, 1252=16"_s << cfg << QStringList();
+    QTest::newRow("printers after another section move")
+        << cfg << "tavolux : {" + language + printers + "};" << unedited << QString() << cfg
+        << QStringList{u"The section tavolux.printers.till moves into tavolux.language."_s,
+                       u"The section tavolux.printers.kitchen moves into tavolux.language."_s,
+                       u"The section tavolux.printers is lost."_s};
+    QTest::newRow("printers after an empty section, which is not read, stay")
+        << cfg << "tavolux : { doc : { };" + printers + "};" << unedited << QString() << cfg << QStringList();
+
     QTest::newRow("a later section at the top")
         << cfg << QByteArray("s1 : { a = 1; }; s2 : { b = 2; };") << unedited << QString() << cfg
         << QStringList{u"The section s2 is lost: only the first section at the top is saved."_s};

@@ -1,6 +1,7 @@
 #include "starter_configuration.h"
 
 #include "configuration_check.h"
+#include "printer_settings.h"
 #include "temporary_home.h"
 #include "tx_configuration.h"
 
@@ -42,6 +43,51 @@ class StarterConfigurationTest : public QObject
 
 private Q_SLOTS:
     void paperWidths() { QCOMPARE(starterPaperWidths(), (QList<int>{32, 40, 42, 48})); }
+
+    void widthForAPrinter_data()
+    {
+        QTest::addColumn<int>("columns");
+        QTest::addColumn<int>("paperWidth");
+        for (const auto &[columns, paperWidth] : {std::pair{1, 32},
+                                                  {31, 32},
+                                                  {32, 32},
+                                                  {39, 32},
+                                                  {40, 40},
+                                                  {41, 40},
+                                                  {42, 42},
+                                                  {47, 42},
+                                                  {48, 48},
+                                                  {255, 48}})
+            QTest::addRow("%d columns", columns) << columns << paperWidth;
+    }
+    void widthForAPrinter()
+    {
+        QFETCH(const int, columns);
+        QTEST(starterPaperWidth(columns), "paperWidth");
+    }
+
+    void everyModel_data()
+    {
+        QTest::addColumn<QString>("model");
+        for (const PrinterModel &model : printerModels)
+            QTest::newRow(model.name.data()) << QString(model.name);
+    }
+    void everyModel()
+    {
+        QFETCH(const QString, model);
+        const PrinterModel &printer = *findPrinterModel(model);
+        const TemporaryHome home;
+        const QByteArray text = starterConfiguration(starterPaperWidth(printer.columns),
+                                                     StarterPrinter{printer.name, "/dev/lp0"});
+        const QString file = home.writeFile(u"tavolux.conf"_s, text);
+        const std::optional<PrinterSettings> started =
+            printerForOutput(TXConfiguration(file, u"cfg"_s), u"/dev/lp0"_s);
+        QVERIFY(started);
+        QCOMPARE(started->model, &printer);
+        QCOMPARE(started->outputs, QStringList(u"/dev/lp0"_s));
+        for (const Finding &finding : checkConfiguration(file, u"cfg"_s, text))
+            QFAIL(qPrintable(QString::number(finding.line) + ": "_L1 + finding.text));
+    }
 
     void everyWidth_data()
     {

@@ -394,14 +394,14 @@ ExitStatus runCommand(const QStringList &arguments)
                                         u"cfg|xml"_s, u"cfg"_s);
     const QCommandLineOption columnsOption(
         u"columns"_s,
-        u"For init: how many characters the paper is wide, without this option as many as the model of --printer has room for, or 42."_s,
+        u"For init: how many characters the paper is wide, without this option as many as the printer has room for, or 42."_s,
         widthsText());
     const QCommandLineOption printerOption(
         u"printer"_s,
         u"For init: the model of a receipt printer, one of those that models lists. For test-page: the name of the printer, a section of tavolux.printers."_s,
         u"MODEL|NAME"_s);
     const QCommandLineOption outputOption(
-        u"output"_s, u"For init: the file or device that the printer of --printer prints."_s, u"FILE"_s);
+        u"output"_s, u"For init: the file or device that the printer prints."_s, u"FILE"_s);
     const QCommandLineOption forceOption(
         u"force"_s, u"For write and write-xml: write OUT though settings or other text are lost."_s);
     const QCommandLineOption helpOption({u"h"_s, u"help"_s}, u"Shows this help."_s);

@@ -6,7 +6,7 @@
 enum ExitStatus {
     exitSuccess = 0,
     exitNegative = 1, // an empty value, findings, a file that could not be written whole, one that exists
-    exitTrouble = 2, // wrong usage, a configuration that cannot be read or begun, no editor
+    exitTrouble = 2, // wrong usage, a configuration that cannot be read or begun, no such printer, no editor
 };
 
 /*

@@ -16,7 +16,8 @@ struct Finding
 
 /*
  * Looks for all that the printing program passes over in silence: what it never reads, values that it cannot
- * use, columns that leave no room on the paper, a translation that is not there. Sorted by line.
+ * use, columns that leave no room on the paper, a translation that is not there, what a printer cannot print
+ * or never gets. Sorted by line.
  *
  * The text is the file's; the kind is "cfg" or "xml". A missing translation for an English locale is no
  * finding when the language follows the locale, since the labels are English of themselves.
