@@ -180,13 +180,24 @@ QStringList printerNames(const TXConfiguration &configuration)
     return configuration.sectionNames(printersKey);
 }
 
-PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name)
+const PrinterSetting *findPrinterSetting(QLatin1StringView name)
+{
+    const auto setting = std::ranges::find(printerSettings, name, &PrinterSetting::name);
+    return setting == printerSettings.end() ? nullptr : &*setting;
+}
+
+PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name,
+                              const SettingTexts &overrides, const SettingTexts &defaults)
 {
     PrinterSettings settings;
     settings.name = name;
     for (const auto &[setting, expected, set] : printerSettings) {
         const QString key = settingKey(name, setting);
-        const QString value = configuration.getStrValue(key);
+        QString value = overrides.value(setting);
+        if (value.isEmpty())
+            value = configuration.getStrValue(key);
+        if (value.isEmpty())
+            value = defaults.value(setting);
         const bool isMissingModel = value.isEmpty() && set == &setModel;
         if ((!value.isEmpty() || isMissingModel) && !set(settings, value))
             printDiagnostic("Error in the setting " + shownFileName(key) + "( " + shownFileName(value)

@@ -3,6 +3,7 @@
 #include "printer_models.h"
 
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -64,9 +65,17 @@ extern const std::span<const PrinterSetting> printerSettings;
 inline constexpr QLatin1StringView printersKey{"tavolux.printers"};
 QStringList printerNames(const TXConfiguration &configuration);
 
+/* The setting of a name; null when there is none. */
+const PrinterSetting *findPrinterSetting(QLatin1StringView name);
+
+/* Texts of settings, by their names. */
+using SettingTexts = QMap<QLatin1StringView, QString>;
+
 /* The printer of a section. One line is printed on standard output for each value that is not what is
- * expected: the model's value stays and, without a model that is known, the printer is the plain-text one. */
-PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name);
+ * expected: the model's value stays and, without a model that is known, the printer is the plain-text one.
+ * What overrides say wins over the section, which wins over the defaults. */
+PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name,
+                              const SettingTexts &overrides = {}, const SettingTexts &defaults = {});
 
 /* The printer of the first section whose outputs fit the path, as it stands or as it is when all links are
  * followed; none without such a section. */
