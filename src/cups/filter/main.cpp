@@ -3,12 +3,17 @@
 
 #include <QCoreApplication>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
+#include <thread>
 
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -17,6 +22,17 @@ namespace {
 {
     report("ERROR", "Nothing was printed, because there is not enough memory.");
     std::_Exit(EXIT_FAILURE);
+}
+
+// Of a filter that has ended already the print system shows no message: "Filter failed" stands in its place.
+void waitUntilMessagesAreRead()
+{
+    int unread = 0;
+    for (auto waited = 0ms; waited < 1s; waited += 1ms) {
+        if (ioctl(STDERR_FILENO, FIONREAD, &unread) != 0 || unread == 0)
+            return;
+        std::this_thread::sleep_for(1ms);
+    }
 }
 
 } // namespace
@@ -34,5 +50,8 @@ int main(int argc, char *argv[])
 
     int ownNameOnly = 1; // a job's title is no option of the toolkit's
     const QCoreApplication application(ownNameOnly, argv);
-    return runFilter({argv, static_cast<std::size_t>(argc)}, printout);
+    const int status = runFilter({argv, static_cast<std::size_t>(argc)}, printout);
+    if (status != 0)
+        waitUntilMessagesAreRead();
+    return status;
 }
