@@ -69,7 +69,7 @@ QStringList printerNames(const TXConfiguration &configuration);
 const PrinterSetting *findPrinterSetting(QLatin1StringView name);
 
 /* Texts of settings, by their names. */
-using SettingTexts = QMap<QLatin1StringView, QString>;
+using SettingTexts = QMap<QString, QString>;
 
 /* The printer of a section. One line is printed on standard output for each value that is not what is
  * expected: the model's value stays and, without a model that is known, the printer is the plain-text one.

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <csignal>
@@ -155,7 +156,7 @@ void PrintServer::addQueue(const QString &name, const QString &uri) const
 void PrintServer::addDocumentQueue(const QString &name, const QString &uri, const QByteArray &configuration,
                                    const QStringList &options) const
 {
-    const QString configurationFile = m_folder.writeFile(name + ".conf"_L1, configuration);
+    m_folder.writeFile(QFileInfo(configurationFile(name)).fileName(), configuration);
     QStringList arguments = {u"-p"_s,
                              name,
                              u"-E"_s,
@@ -166,7 +167,7 @@ void PrintServer::addDocumentQueue(const QString &name, const QString &uri, cons
                              u"-o"_s,
                              u"printer-error-policy=retry-job"_s,
                              u"-o"_s,
-                             u"configuration-default="_s + configurationFile};
+                             u"configuration-default="_s + configurationFile(name)};
     for (const QString &option : options)
         arguments << u"-o"_s << option;
     client(u"lpadmin"_s, arguments);

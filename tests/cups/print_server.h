@@ -38,6 +38,9 @@ public:
     /* Submits a job, perhaps with options of the program lp; returns its name, such as kitchen-12. */
     QString submit(const QString &queue, const QByteArray &bytes, const QStringList &options = {}) const;
 
+    /* The configuration file of a queue for documents. */
+    QString configurationFile(const QString &queue) const { return file(queue + QStringLiteral(".conf")); }
+
     /* The program that submits, whatever comes of it. */
     ProgramResult lp(const QString &queue, const QByteArray &bytes, const QStringList &options = {}) const;
 

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void printsAsTheQueueAndTheJobSay();
     void failsABrokenDocument_data();
     void failsABrokenDocument();
+    void failsWithoutAConfiguration();
     void takesNoOtherXml_data();
     void takesNoOtherXml();
     void describesItsOptions();
@@ -425,6 +426,25 @@ void PrintServerTest::failsABrokenDocument()
     QVERIFY2(open.contains(fault), open.constData());
     QCOMPARE(printer.log().jobs.size(), 1);
     m_server->client(u"cancel"_s, {broken});
+    QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
+}
+
+// It can be printed once there is one.
+void PrintServerTest::failsWithoutAConfiguration()
+{
+    const SimulatedPrinter printer;
+    const QString queue = newDocumentQueue(printer, generic);
+    const QString file = m_server->configurationFile(queue);
+    QVERIFY(QFile::rename(file, file + u'x'));
+    const QString job = m_server->submit(queue, order);
+    const QByteArray status = "Status: Nothing was printed, because the configuration " + file.toLocal8Bit()
+        + " cannot be read: No such file or directory.";
+    QTRY_VERIFY_WITH_TIMEOUT(m_server->openJobs(queue).contains(status), 30'000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_server->client(u"lpstat"_s, {u"-p"_s, queue}).contains("is idle"), 30'000);
+
+    QVERIFY(QFile::rename(file + u'x', file));
+    m_server->client(u"lp"_s, {u"-i"_s, job, u"-H"_s, u"restart"_s});
+    QVERIFY(printer.waitUntil([](const PrinterLog &log) { return log.jobs.size() == 1; }));
     QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
 }
 
