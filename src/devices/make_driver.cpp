@@ -12,11 +12,17 @@
 std::unique_ptr<PrinterDriver> makeDriver(const TXConfiguration &configuration,
                                           std::unique_ptr<PrintOutput> output)
 {
-    if (const std::optional<PrinterSettings> printer = printerForOutput(configuration, output->name());
-        printer && !printer->model->isPlainText())
-        return std::make_unique<PaperDriver>(configuration, std::move(output),
-                                             std::make_unique<EscposPaper>(*printer));
-    return std::make_unique<CompanyPrinterDriver>(configuration, std::move(output));
+    const std::optional<PrinterSettings> printer = printerForOutput(configuration, output->name());
+    return makeDriver(configuration, printer.value_or(PrinterSettings()), std::move(output));
+}
+
+std::unique_ptr<PrinterDriver> makeDriver(const TXConfiguration &configuration,
+                                          const PrinterSettings &printer, std::unique_ptr<PrintOutput> output)
+{
+    if (printer.model->isPlainText())
+        return std::make_unique<CompanyPrinterDriver>(configuration, std::move(output));
+    return std::make_unique<PaperDriver>(configuration, std::move(output),
+                                         std::make_unique<EscposPaper>(printer));
 }
 
 std::unique_ptr<PrinterDriver> makePreviewDriver(const TXConfiguration &configuration,

@@ -171,23 +171,31 @@ QStringList printerNames(const TXConfiguration &configuration)
     return configuration.sectionNames(printersKey);
 }
 
-PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name)
+const PrinterSetting *findPrinterSetting(QLatin1StringView name)
 {
-    return printerOfName(configuration, name,
-                         [](const QString &key, const PrinterSetting &setting, const QString &value) {
-                             printDiagnostic("Error in the setting " + shownFileName(key) + "( "
-                                             + shownFileName(value) + " ): not " + setting.expected);
-                         });
+    const auto setting = std::ranges::find(printerSettings, name, &PrinterSetting::name);
+    return setting == printerSettings.end() ? nullptr : &*setting;
+}
+
+void printSettingFault(const QString &key, const PrinterSetting &setting, const QString &value)
+{
+    printDiagnostic("Error in the setting " + shownFileName(key) + "( " + shownFileName(value) + " ): not "
+                    + setting.expected);
 }
 
 PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name,
-                              const SettingFault &tellFault)
+                              const SettingFault &tellFault, const SettingTexts &overrides,
+                              const SettingTexts &defaults)
 {
     PrinterSettings settings;
     settings.name = name;
     for (const PrinterSetting &setting : printerSettings) {
         const QString key = settingKey(name, setting.name);
-        const QString value = configuration.getStrValue(key);
+        QString value = overrides.value(setting.name);
+        if (value.isEmpty())
+            value = configuration.getStrValue(key);
+        if (value.isEmpty())
+            value = defaults.value(setting.name);
         const bool isMissingModel = value.isEmpty() && setting.set == &setModel;
         if ((!value.isEmpty() || isMissingModel) && !setting.set(settings, value))
             tellFault(key, setting, value);

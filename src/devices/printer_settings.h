@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -66,16 +67,25 @@ extern const std::span<const PrinterSetting> printerSettings;
 inline constexpr QLatin1StringView printersKey{"tavolux.printers"};
 QStringList printerNames(const TXConfiguration &configuration);
 
+/* The setting of a name; null when there is none. */
+const PrinterSetting *findPrinterSetting(QLatin1StringView name);
+
 /* Is told of a value that is not what is expected, or of a model that is missing. */
 using SettingFault =
     std::function<void(const QString &key, const PrinterSetting &setting, const QString &value)>;
 
-/* The printer of a section. Of a value that is not what is expected the model's stays and, without a model
- * that is known, the printer is the plain-text one. One line is printed on standard output for each such
- * value unless something else is to be told of them. */
-PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name);
+/* Tells it in one line on standard output. */
+void printSettingFault(const QString &key, const PrinterSetting &setting, const QString &value);
+
+/* Texts of settings, by their names. */
+using SettingTexts = QMap<QString, QString>;
+
+/* The printer of a section. What overrides say wins over the section, which wins over the defaults. Of a
+ * value that is not what is expected the model's stays and, without a model that is known, the printer is the
+ * plain-text one. */
 PrinterSettings printerOfName(const TXConfiguration &configuration, const QString &name,
-                              const SettingFault &tellFault);
+                              const SettingFault &tellFault = printSettingFault,
+                              const SettingTexts &overrides = {}, const SettingTexts &defaults = {});
 
 /* Whether an output is a pattern, not a name. */
 bool isOutputPattern(const QString &output);

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <csignal>
@@ -57,6 +58,13 @@ SystemGroup root
 SyncOnClose Yes
 )";
 
+/* A copy that everybody may read, since the build folder may be closed to others. */
+void install(const QString &source, const QString &copy, mode_t mode)
+{
+    if (!QFile::copy(source, copy) || chmod(QFile::encodeName(copy).constData(), mode) != 0)
+        qFatal("cannot install %s", qPrintable(source));
+}
+
 /* A folder that root owns and the print system's group may use. */
 void makeFolder(const QString &path, mode_t mode)
 {
@@ -91,13 +99,15 @@ PrintServer::PrintServer()
     makeFolder(file(u"cache"_s), 0770);
     makeFolder(file(u"state"_s), 0755);
     makeFolder(file(u"bin/backend"_s), 0755);
-    for (const QString &folder : {u"daemon"_s, u"filter"_s, u"notifier"_s, u"cgi-bin"_s})
+    makeFolder(file(u"bin/filter"_s), 0755);
+    for (const QString &folder : {u"daemon"_s, u"notifier"_s, u"cgi-bin"_s})
         QFile::link(systemServerBin + u'/' + folder, file(u"bin/"_s + folder));
-    // A copy, since the build folder may be closed to others.
-    const QString backend = file(u"bin/backend/tavolux"_s);
-    if (!QFile::copy(QStringLiteral(TAVOLUX_BACKEND), backend)
-        || chmod(QFile::encodeName(backend).constData(), 0755) != 0)
-        qFatal("cannot install the backend");
+    install(QStringLiteral(TAVOLUX_BACKEND), file(u"bin/backend/tavolux"_s), 0755);
+    install(QStringLiteral(TAVOLUX_FILTER), file(u"bin/filter/tavolux-filter"_s), 0755);
+    install(QStringLiteral(TAVOLUX_PPD), file(u"tavolux.ppd"_s), 0644);
+    for (const QString &rules : {u"tavolux.types"_s, u"tavolux.convs"_s})
+        install(QStringLiteral(TAVOLUX_SOURCE_DIR "/src/cups/filter/") + rules, file(u"root/"_s + rules),
+                0644);
 
     const QByteArray folder = m_folder.path().toLocal8Bit();
     m_folder.writeFile(u"cupsd.conf"_s, QByteArray(settings).replace("FOLDER", folder));
@@ -143,16 +153,43 @@ void PrintServer::addQueue(const QString &name, const QString &uri) const
            {u"-p"_s, name, u"-E"_s, u"-v"_s, uri, u"-o"_s, u"printer-error-policy=retry-job"_s});
 }
 
-QString PrintServer::submit(const QString &queue, const QByteArray &bytes) const
+void PrintServer::addDocumentQueue(const QString &name, const QString &uri, const QByteArray &configuration,
+                                   const QStringList &options) const
 {
-    QTemporaryFile job(file(u"job"_s));
+    m_folder.writeFile(QFileInfo(configurationFile(name)).fileName(), configuration);
+    QStringList arguments = {u"-p"_s,
+                             name,
+                             u"-E"_s,
+                             u"-v"_s,
+                             uri,
+                             u"-P"_s,
+                             file(u"tavolux.ppd"_s),
+                             u"-o"_s,
+                             u"printer-error-policy=retry-job"_s,
+                             u"-o"_s,
+                             u"configuration-default="_s + configurationFile(name)};
+    for (const QString &option : options)
+        arguments << u"-o"_s << option;
+    client(u"lpadmin"_s, arguments);
+}
+
+ProgramResult PrintServer::lp(const QString &queue, const QByteArray &bytes, const QStringList &options) const
+{
+    // An ending that several types of files have.
+    QTemporaryFile job(file(u"XXXXXX.xml"_s));
     if (!job.open() || job.write(bytes) != bytes.size() || !job.flush())
         qFatal("cannot write the job");
-    const QByteArray answer = client(u"lp"_s, {u"-d"_s, queue, job.fileName()});
-    const QString name =
-        QString::fromLatin1(answer).section(u' ', 3, 3); // request id is kitchen-12 (1 file(s))
+    return runProgram(u"lp"_s, QStringList{u"-d"_s, queue} + options + QStringList{job.fileName()},
+                      environment());
+}
+
+QString PrintServer::submit(const QString &queue, const QByteArray &bytes, const QStringList &options) const
+{
+    const ProgramResult result = lp(queue, bytes, options);
+    const QString name = QString::fromLatin1(result.standardOutput)
+                             .section(u' ', 3, 3); // request id is kitchen-12 (1 file(s))
     if (!name.startsWith(queue + u'-'))
-        qFatal("no job: %s", answer.constData());
+        qFatal("no job: %s", result.standardError.constData());
     return name;
 }
 
@@ -185,5 +222,5 @@ QByteArray PrintServer::log() const
 
 QMap<QString, QString> PrintServer::environment() const
 {
-    return {{u"CUPS_SERVER"_s, file(u"cups.sock"_s)}};
+    return {{u"CUPS_SERVER"_s, file(u"cups.sock"_s)}, {u"CUPS_SERVERROOT"_s, file(u"root"_s)}};
 }

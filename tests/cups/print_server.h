@@ -1,5 +1,6 @@
 #pragma once
 
+#include "program_run.h"
 #include "temporary_home.h"
 
 #include <QProcess>
@@ -7,7 +8,8 @@
 /*
  * A print server of its own: it keeps everything in a temporary folder, is reached through a socket there and
  * by nobody else, and has the settings that the page about queues recommends. It runs as root, as every print
- * server does, and its backends as "lp".
+ * server does, and its backends and filters as
+ * "lp".
  */
 class PrintServer
 {
@@ -27,11 +29,20 @@ public:
     /* Ends it as a crash does. */
     void kill();
 
-    /* Makes a queue as the page says. */
+    /* Makes a queue as the page says: for what is ready to be printed, or for documents, with a configuration
+     * file of its own and options such as Columns=42. */
     void addQueue(const QString &name, const QString &uri) const;
+    void addDocumentQueue(const QString &name, const QString &uri, const QByteArray &configuration,
+                          const QStringList &options = {}) const;
 
-    /* Submits a job; returns its name, such as kitchen-12. */
-    QString submit(const QString &queue, const QByteArray &bytes) const;
+    /* Submits a job, perhaps with options of the program lp; returns its name, such as kitchen-12. */
+    QString submit(const QString &queue, const QByteArray &bytes, const QStringList &options = {}) const;
+
+    /* The configuration file of a queue for documents. */
+    QString configurationFile(const QString &queue) const { return file(queue + QStringLiteral(".conf")); }
+
+    /* The program that submits, whatever comes of it. */
+    ProgramResult lp(const QString &queue, const QByteArray &bytes, const QStringList &options = {}) const;
 
     /* What a client program such as lpstat prints; the test ends when it fails. */
     QByteArray client(const QString &program, const QStringList &arguments) const;

@@ -1,7 +1,9 @@
 /* Queues of a real print server with the backend, on simulated printers. */
 #include "print_server.h"
+#include "program_run.h"
 #include "simulated_printer.h"
 
+#include <QDir>
 #include <QTest>
 
 #include <algorithm>
@@ -18,6 +20,16 @@ using Is = SimulatedPrinter::Condition;
 using Change = std::function<void(Is &)>;
 
 const QByteArrayList tickets = {"1 x Coperto\n", "2 x Pizza Diavola\n", "3 x Caffe\n"};
+
+const QString examples = QStringLiteral(TAVOLUX_SOURCE_DIR "/examples/documents");
+const QByteArray order = "<d><method name='printPartialOrder'/>"
+                         "<receipe number='2' name='Pizza Diavola'/></d>";
+const QByteArray generic = "model = generic-80;";
+
+QByteArray configuration(const QString &printer, const QByteArray &section)
+{
+    return "tavolux : { printers : { " + printer.toLatin1() + " : { " + section + " }; }; };\n";
+}
 
 bool allPrinted(const PrinterLog &log)
 {
@@ -39,6 +51,14 @@ private:
     {
         const QString name = u"kitchen%1"_s.arg(++m_queues);
         m_server->addQueue(name, printer.uri());
+        return name;
+    }
+
+    QString newDocumentQueue(const SimulatedPrinter &printer, const QByteArray &section,
+                             const QStringList &options = {})
+    {
+        const QString name = u"kitchen%1"_s.arg(++m_queues);
+        m_server->addDocumentQueue(name, printer.uri(), configuration(name, section), options);
         return name;
     }
 
@@ -67,6 +87,17 @@ private Q_SLOTS:
     void startedAgainInTheMiddle();
     void stopsTheQueueOfAWrongAddress();
     void printsOnTheReadyMemberOfAClass();
+    void printsDocumentsAsTheProgramDoes_data();
+    void printsDocumentsAsTheProgramDoes();
+    void printsCopies_data();
+    void printsCopies();
+    void printsAsTheQueueAndTheJobSay();
+    void failsABrokenDocument_data();
+    void failsABrokenDocument();
+    void failsWithoutAConfiguration();
+    void takesNoOtherXml_data();
+    void takesNoOtherXml();
+    void describesItsOptions();
 };
 
 void PrintServerTest::initTestCase()
@@ -300,6 +331,153 @@ void PrintServerTest::printsOnTheReadyMemberOfAClass()
     submitTickets(u"kitchens"_s);
     QVERIFY(printers[1].waitUntil(allPrinted));
     QCOMPARE(printers[0].log().paper, QByteArray());
+}
+
+void PrintServerTest::printsDocumentsAsTheProgramDoes_data()
+{
+    QTest::addColumn<QByteArray>("section");
+    QTest::newRow("with a cutter") << "model = epson-tm-t20iii; drawerPin = 5;"_ba;
+    QTest::newRow("58 mm") << "model = zj-5870;"_ba;
+    QTest::newRow("plain text") << "model = plain-text;"_ba;
+}
+
+void PrintServerTest::printsDocumentsAsTheProgramDoes()
+{
+    QFETCH(const QByteArray, section);
+    const TemporaryHome home;
+    home.writeConfiguration(configuration(u"kitchen"_s, section + "output = \"*\";"));
+    const SimulatedPrinter printer;
+    const QString queue = newDocumentQueue(printer, section);
+
+    QByteArrayList expected;
+    for (const QFileInfo &document : QDir(examples).entryInfoList(QDir::Files, QDir::Name)) {
+        const QString printed = home.filePath(u"printed"_s);
+        runProgram(QStringLiteral(TAVOLUX_PRINTER), {document.filePath(), printed},
+                   {{u"HOME"_s, home.path()}});
+        if (const QByteArray bytes = fileBytes(printed); !bytes.isEmpty())
+            expected.append(bytes);
+        m_server->submit(queue, fileBytes(document.filePath()));
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 60'000);
+    QVERIFY(expected.size() >= 10);
+    QCOMPARE(printer.log().jobs, expected);
+}
+
+void PrintServerTest::printsCopies_data()
+{
+    QTest::addColumn<QStringList>("ofQueue");
+    QTest::addColumn<QStringList>("ofJob");
+    QTest::newRow("of the job") << QStringList() << QStringList{u"-n"_s, u"2"_s};
+    QTest::newRow("of the queue") << QStringList{u"copies-default=2"_s} << QStringList();
+}
+
+void PrintServerTest::printsCopies()
+{
+    QFETCH(const QStringList, ofQueue);
+    QFETCH(const QStringList, ofJob);
+    const SimulatedPrinter printer;
+    const QString queue = newDocumentQueue(printer, generic, ofQueue);
+    m_server->submit(queue, order, ofJob);
+    QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
+    QCOMPARE(printer.log().paper.count("Pizza Diavola"), 2);
+}
+
+void PrintServerTest::printsAsTheQueueAndTheJobSay()
+{
+    const auto row = [](int columns) { return (" TOTAL" + QByteArray(columns - 6, '.') + '\n'); };
+    const QByteArray total = "<d><method name='printFullOrder'/><total/></d>";
+    const SimulatedPrinter printer;
+    const QString queue = newDocumentQueue(printer, generic, {u"Columns=36"_s});
+    m_server->submit(queue, total);
+    m_server->submit(queue, total, {u"-o"_s, u"columns=44"_s});
+    QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
+    const QByteArrayList jobs = printer.log().jobs;
+    QCOMPARE(jobs.size(), 2);
+    QVERIFY(jobs[0].contains(row(36)));
+    QVERIFY(jobs[1].contains(row(44)));
+}
+
+void PrintServerTest::failsABrokenDocument_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<QByteArray>("fault");
+    QTest::newRow("not well-formed") << order.chopped(4) << "unexpected end of file"_ba;
+    QTest::newRow("unknown method") << "<d><method name='printPizza'/></d>"_ba
+                                    << "line 1, column 29: unknown method \"printPizza\""_ba;
+}
+
+// It stays in the queue, stopped and with its message, until it is cancelled; the jobs after it are printed.
+void PrintServerTest::failsABrokenDocument()
+{
+    QFETCH(const QByteArray, document);
+    QFETCH(const QByteArray, fault);
+    const SimulatedPrinter printer;
+    const QString queue = newDocumentQueue(printer, generic);
+    const QString broken = m_server->submit(queue, document);
+    m_server->submit(queue, order);
+    QVERIFY(printer.waitUntil([](const PrinterLog &log) { return log.jobs.size() == 1; }));
+    QVERIFY(printer.log().paper.contains("Pizza Diavola"));
+
+    QByteArray open;
+    QTRY_VERIFY_WITH_TIMEOUT((open = m_server->openJobs(queue)).count("queued for") == 1, 30'000);
+    QVERIFY2(open.startsWith(broken.toLatin1() + ' '), open.constData());
+    QVERIFY2(open.contains("Status: Nothing was printed, because of a fault in the document, "),
+             open.constData());
+    QVERIFY2(open.contains(fault), open.constData());
+    QCOMPARE(printer.log().jobs.size(), 1);
+    m_server->client(u"cancel"_s, {broken});
+    QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
+}
+
+// It can be printed once there is one.
+void PrintServerTest::failsWithoutAConfiguration()
+{
+    const SimulatedPrinter printer;
+    const QString queue = newDocumentQueue(printer, generic);
+    const QString file = m_server->configurationFile(queue);
+    QVERIFY(QFile::rename(file, file + u'x'));
+    const QString job = m_server->submit(queue, order);
+    const QByteArray status = "Status: Nothing was printed, because the configuration " + file.toLocal8Bit()
+        + " cannot be read: No such file or directory.";
+    QTRY_VERIFY_WITH_TIMEOUT(m_server->openJobs(queue).contains(status), 30'000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_server->client(u"lpstat"_s, {u"-p"_s, queue}).contains("is idle"), 30'000);
+
+    QVERIFY(QFile::rename(file + u'x', file));
+    m_server->client(u"lp"_s, {u"-i"_s, job, u"-H"_s, u"restart"_s});
+    QVERIFY(printer.waitUntil([](const PrinterLog &log) { return log.jobs.size() == 1; }));
+    QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
+}
+
+void PrintServerTest::takesNoOtherXml_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::newRow("without a method") << "<?xml version='1.0'?><order><item name='printer'/></order>"_ba;
+    QTest::newRow("with another method") << "<api><method name='GET'/></api>"_ba;
+    QTest::newRow("with another element") << "<api><methods name='printAll'/></api>"_ba;
+}
+
+void PrintServerTest::takesNoOtherXml()
+{
+    QFETCH(const QByteArray, document);
+    const SimulatedPrinter printer;
+    const ProgramResult result = m_server->lp(newDocumentQueue(printer, generic), document);
+    QVERIFY(result.exitStatus != 0);
+    QVERIFY2(result.standardError.contains("Unsupported document-format"), result.standardError.constData());
+}
+
+void PrintServerTest::describesItsOptions()
+{
+    const SimulatedPrinter printer;
+    const QString queue = newDocumentQueue(printer, generic, {u"Cut=partial"_s, u"drawer=5"_s});
+    const QByteArray options = m_server->client(u"lpoptions"_s, {u"-p"_s, queue, u"-l"_s});
+    for (const char *option :
+         {"Model/Printer model: *Configured epson-tm-t20ii epson-tm-t20iii ",
+          "Columns/Width of the paper: *Configured 32 36 42 44 48\n",
+          "Cut/Cut: Configured full *partial none\n", "Drawer/Cash drawer: Configured 2 *5\n",
+          "Language/Language of the labels: *Configured en de es fr it nl pl pt\n"})
+        QVERIFY2(options.contains(option), options.constData());
+    QVERIFY(m_server->client(u"lpoptions"_s, {u"-p"_s, queue})
+                .contains("printer-make-and-model='Tavolux receipt"));
 }
 
 QTEST_GUILESS_MAIN(PrintServerTest)

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void settings_data();
     void settings();
     void everySettingIsTold();
+    void overridesWinOverTheSectionAndTheSectionOverDefaults();
     void selection_data();
     void selection();
     void selectionFollowsLinks();
@@ -160,6 +161,18 @@ void PrinterSettingsTest::everySettingIsTold()
             + QByteArray(printerSettings[i].name.data(), printerSettings[i].name.size()) + "( ";
         QVERIFY2(lines[qsizetype(i)].startsWith(expected), lines[qsizetype(i)].constData());
     }
+}
+
+void PrinterSettingsTest::overridesWinOverTheSectionAndTheSectionOverDefaults()
+{
+    const Configuration configuration("till : { columns = 40; cut = full; };");
+    const PrinterSettings settings = printerOfName(
+        configuration.configuration, u"till"_s, printSettingFault, {{u"columns"_s, u"44"_s}},
+        {{u"model"_s, u"zj-5870"_s}, {u"columns"_s, u"36"_s}, {u"cut"_s, u"none"_s}, {u"feed"_s, u"9"_s}});
+    QCOMPARE(settings.model->name, "zj-5870"_L1);
+    QCOMPARE(settings.columns, 44);
+    QCOMPARE(settings.cut, Cutter::full);
+    QCOMPARE(settings.feed, 9);
 }
 
 void PrinterSettingsTest::selection_data()

@@ -4,6 +4,7 @@
 #include "confirmed_print.h"
 #include "device.h"
 #include "queue_record.h"
+#include "report.h"
 #include "state_report.h"
 
 #include <array>

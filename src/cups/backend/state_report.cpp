@@ -1,10 +1,10 @@
 #include "state_report.h"
 
+#include "report.h"
+
 #include <algorithm>
 #include <iterator>
 #include <sstream>
-
-#include <unistd.h>
 
 namespace {
 
@@ -39,12 +39,6 @@ std::set<std::string> without(const std::set<std::string> &words, const std::set
 }
 
 } // namespace
-
-void report(const std::string &kind, const std::string &text)
-{
-    const std::string line = kind + ": " + text + '\n';
-    [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, line.data(), line.size());
-}
 
 StateReport::StateReport(const std::string &inForce)
 {

@@ -5,9 +5,6 @@
 #include <set>
 #include <string>
 
-/* Writes one line of its kind, such as "ERROR", to standard error, where the print system reads it. */
-void report(const std::string &kind, const std::string &text);
-
 /* Keeps the printer's state reasons and message in the print system as the printer tells. Says only what
  * changes: the print system may write each change to disk. */
 class StateReport
