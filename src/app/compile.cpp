@@ -47,8 +47,8 @@ void keepStandardStreamsOpen()
 const char *outputName = "";
 PrinterDriver *printing = nullptr;
 
-// What ends a program without a handler: memory that ran out, where the toolkit lets nothing be unwound. What was
-// printed needs no more memory to be sent.
+// What ends a program without a handler: memory that ran out, where the toolkit lets nothing be unwound. What
+// was printed needs no more memory to be sent.
 [[noreturn]] void endWithoutMemory()
 {
     try {
