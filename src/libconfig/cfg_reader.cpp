@@ -34,7 +34,7 @@ bool Config::openFile(const QString &name)
     closeFile();
     // A directory opens as a stream that never ends, and a FIFO waits for a writer.
     if (isRegularFile(name))
-        m_file.open(fileNameBytes(name).constData(), std::ios::in | std::ios::binary);
+        (void)m_file.open(fileNameBytes(name).constData(), std::ios::in | std::ios::binary);
     m_inputStream.rdbuf(&m_file);
     if (m_file.is_open())
         return true;

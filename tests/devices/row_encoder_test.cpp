@@ -157,8 +157,8 @@ void RowEncoderTest::cells()
 
 void RowEncoderTest::styles()
 {
-    const TextStyle bold = {.bold = true};
-    const TextStyle high = {.doubleHeight = true};
+    const TextStyle bold{true, false};
+    const TextStyle high{false, true};
     StyledLine line;
     line.append(u"a", {});
     line.append(u"€.", bold);

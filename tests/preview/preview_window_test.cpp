@@ -64,7 +64,6 @@ struct OpenedWindow
 
     QByteArray picture() const
     {
-        QByteArray bytes;
         const QImage image = view.viewport()->grab().toImage();
         return QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes());
     }

@@ -13,8 +13,6 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-using namespace std::chrono_literals;
-
 namespace {
 
 // Memory that ran out, where the toolkit lets nothing be unwound. Nothing has been written yet.
@@ -27,11 +25,12 @@ namespace {
 // Of a filter that has ended already the print system shows no message: "Filter failed" stands in its place.
 void waitUntilMessagesAreRead()
 {
+    constexpr int longest = 1000; // milliseconds
     int unread = 0;
-    for (auto waited = 0ms; waited < 1s; waited += 1ms) {
+    for (int waited = 0; waited < longest; ++waited) {
         if (ioctl(STDERR_FILENO, FIONREAD, &unread) != 0 || unread == 0)
             return;
-        std::this_thread::sleep_for(1ms);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
 }
 
