@@ -44,7 +44,7 @@ void printAgain(benchmark::State &state)
 {
     QByteArray document = receipt(static_cast<int>(state.range(0)));
     DocumentPreviewer previewer;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto round : state) {
         QBuffer device(&document);
         benchmark::DoNotOptimize(PrintoutPainter(previewer.preview(device, configuration()).printout));
     }
@@ -58,7 +58,7 @@ void repaintWindow(benchmark::State &state)
     view.setPrintout(painterOf(static_cast<int>(state.range(0))));
     view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() / 2);
     QImage image(view.viewport()->size(), QImage::Format_RGB32);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto round : state)
         view.viewport()->render(&image);
 }
 BENCHMARK(repaintWindow)->Arg(20)->Arg(10'000)->Arg(90'000)->Unit(benchmark::kMillisecond);
@@ -68,7 +68,7 @@ void makeFile(benchmark::State &state)
     const PrintoutPainter painter = painterOf(static_cast<int>(state.range(1)));
     const auto format = static_cast<PrintoutFormat>(state.range(0));
     qsizetype bytes = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto round : state) {
         const PrintoutFile file = printoutFile(painter, format);
         if (!file.error.isEmpty())
             state.SkipWithError(qPrintable(file.error));
