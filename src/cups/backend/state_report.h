@@ -11,7 +11,7 @@ class StateReport
 {
 public:
     /* Begins with the reasons that an earlier run has left, separated by commas. */
-    explicit StateReport(const std::string &reasons);
+    explicit StateReport(const std::string &inForce);
 
     void show(const PrinterStatus &status);
     /* The printer cannot be asked, or takes nothing. */
@@ -20,7 +20,7 @@ public:
     void clear();
 
 private:
-    void setReasons(const std::set<std::string> &reasons);
+    void setReasons(const std::set<std::string> &now);
     void setMessage(const std::string &kind, const std::string &message);
 
     std::set<std::string> m_reasons;
