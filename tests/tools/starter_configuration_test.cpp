@@ -150,6 +150,12 @@ private Q_SLOTS:
         row(32, u"reportdoc"_s, u"5 7 8 32"_s);
         row(40, u"receiptdoc"_s, u"5 7 8 40"_s);
         row(48, u"receiptdoc"_s, u"5 8 9 48"_s);
+        // The amounts of statements have the report's price column, and what is sold has none.
+        row(40, u"reportdoc"_s, u"5 9 8 40"_s);
+        row(48, u"reportdoc"_s, u"5 10 9 48"_s);
+        row(32, u"solddoc"_s, u"5 0 8 32"_s);
+        row(48, u"solddoc"_s, u"5 0 9 48"_s);
+        row(48, u"doc"_s, u"3 8 9 48"_s);
     }
     void columns()
     {
