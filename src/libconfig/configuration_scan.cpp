@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -22,11 +23,13 @@ public:
     {
         QString text; // without the blanks around it
         int line; // where the text begins or, when it is empty, the stop stands
+        Span span;
         std::optional<char> stop; // empty at the end of the file
     };
 
     explicit PieceReader(const QByteArray &bytes)
-        : m_rest(bytes)
+        : m_bytes(bytes)
+        , m_rest(bytes)
     {
     }
 
@@ -37,7 +40,8 @@ public:
         const QString bytes = QString::fromLatin1(m_rest.first(end - m_rest.begin()));
         const QString text = bytes.trimmed();
         const qsizetype blanks = text.isEmpty() ? bytes.size() : bytes.indexOf(text.front());
-        Piece piece{text, m_line + lineEnds(bytes.first(blanks)), {}};
+        const qsizetype begin = position() + blanks;
+        Piece piece{text, m_line + lineEnds(bytes.first(blanks)), {begin, begin + text.size()}, {}};
         m_line += lineEnds(bytes);
         m_rest = m_rest.sliced(bytes.size());
         if (!m_rest.empty()) {
@@ -49,11 +53,97 @@ public:
 
     int currentLine() const { return m_line; }
 
+    /* How many bytes have been taken. */
+    qsizetype position() const { return m_bytes.size() - m_rest.size(); }
+
 private:
     static int lineEnds(QStringView text) { return static_cast<int>(text.count(u'\n')); }
 
+    QByteArrayView m_bytes;
     QByteArrayView m_rest;
     int m_line = 1;
+};
+
+/* Finds the tags of "xml" text, which is taken to be well-formed and to have neither declaration nor document
+ * type, in bytes: the toolkit's reader counts characters. */
+class TagFinder
+{
+public:
+    explicit TagFinder(const QByteArray &bytes)
+        : m_bytes(bytes)
+    {
+    }
+
+    /* The next tag, behind comments and the like. */
+    Span takeTag()
+    {
+        constexpr struct
+        {
+            QByteArrayView begin;
+            QByteArrayView end;
+        } passedOver[] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}, {"<!", ">"}};
+        for (;;) {
+            m_at = find("<", m_at);
+            const QByteArrayView rest = QByteArrayView(m_bytes).sliced(m_at);
+            const auto *const markup = std::ranges::find_if(
+                passedOver, [&](const auto &other) { return rest.startsWith(other.begin); });
+            if (markup == std::end(passedOver))
+                break;
+            m_at = after(markup->end, m_at + markup->begin.size());
+        }
+        const qsizetype begin = m_at;
+        while (m_at < m_bytes.size() && m_bytes[m_at] != '>')
+            m_at = isQuote(m_bytes[m_at]) ? after({&m_bytes.constData()[m_at], 1}, m_at + 1) : m_at + 1;
+        m_at = std::min(m_at + 1, m_bytes.size());
+        return {begin, m_at};
+    }
+
+    /* Whether a tag begins an element and ends it. */
+    bool isWholeElement(Span tag) const { return tag.size() > 2 && m_bytes[tag.end - 2] == '/'; }
+
+    /* Finds the attributes of a tag one after another. */
+    void enter(Span tag) { m_attributeAt = tag.begin; }
+
+    struct Attribute
+    {
+        Span span;
+        Span value;
+    };
+    Attribute takeAttribute()
+    {
+        const qsizetype equals = find("=", m_attributeAt);
+        qsizetype end = equals;
+        while (end > 0 && isBlank(m_bytes[end - 1]))
+            --end;
+        qsizetype begin = end;
+        while (begin > 0 && !isBlank(m_bytes[begin - 1]))
+            --begin;
+        qsizetype quote = equals;
+        while (quote < m_bytes.size() && !isQuote(m_bytes[quote]))
+            ++quote;
+        if (quote == m_bytes.size())
+            return {};
+        m_attributeAt = after({&m_bytes.constData()[quote], 1}, quote + 1);
+        return {{begin, m_attributeAt}, {quote + 1, m_attributeAt - 1}};
+    }
+
+private:
+    static bool isQuote(char c) { return c == '"' || c == '\''; }
+    static bool isBlank(char c) { return QByteArrayView(" \t\r\n").contains(c); }
+
+    qsizetype find(QByteArrayView text, qsizetype from) const
+    {
+        const qsizetype found = m_bytes.indexOf(text, from);
+        return found < 0 ? m_bytes.size() : found;
+    }
+    qsizetype after(QByteArrayView text, qsizetype from) const
+    {
+        return std::min(find(text, from) + text.size(), m_bytes.size());
+    }
+
+    const QByteArray m_bytes;
+    qsizetype m_at = 0;
+    qsizetype m_attributeAt = 0;
 };
 
 QString xmlFault(const QString &reason)
@@ -69,7 +159,7 @@ Scan scanCfg(const QByteArray &text)
     const auto add = [&scan](Statement statement) { scan.statements.push_back(std::move(statement)); };
     const auto addText = [&add](Kind kind, const PieceReader::Piece &piece) {
         if (!piece.text.isEmpty())
-            add({kind, piece.line, piece.text});
+            add({.kind = kind, .line = piece.line, .name = piece.text, .span = piece.span});
     };
 
     PieceReader reader(text);
@@ -77,17 +167,33 @@ Scan scanCfg(const QByteArray &text)
         const PieceReader::Piece head = reader.takeTo(":=}");
         if (head.stop == ':') {
             const PieceReader::Piece skipped = reader.takeTo("{");
-            add({Kind::sectionBegins, head.line, head.text, {}, skipped.stop.has_value()});
+            add({.kind = Kind::sectionBegins,
+                 .line = head.line,
+                 .name = head.text,
+                 .complete = skipped.stop.has_value(),
+                 .span = {head.span.begin, reader.position()}});
             if (++depth > libconfig::Config::maximumNesting)
                 return scan;
             addText(Kind::skippedText, skipped);
         } else if (head.stop == '=') {
             PieceReader::Piece value = reader.takeTo(";");
-            add({Kind::setting, head.line, head.text, value.text.remove(u'"'), value.stop.has_value()});
+            add({.kind = Kind::setting,
+                 .line = head.line,
+                 .name = head.text,
+                 .value = value.text.remove(u'"'),
+                 .complete = value.stop.has_value(),
+                 .span = {head.span.begin, value.stop ? reader.position() : value.span.end},
+                 .valueSpan = value.span});
         } else if (head.stop == '}') {
             addText(Kind::leftoverText, head);
-            add({Kind::sectionEnds, reader.currentLine()});
-            addText(Kind::skippedText, reader.takeTo(";"));
+            const int line = reader.currentLine();
+            const qsizetype brace = reader.position() - 1;
+            const PieceReader::Piece skipped = reader.takeTo(";");
+            add({.kind = Kind::sectionEnds,
+                 .line = line,
+                 .complete = skipped.stop.has_value(),
+                 .span = {brace, reader.position()}});
+            addText(Kind::skippedText, skipped);
             if (--depth < 0)
                 return scan;
         } else {
@@ -103,26 +209,44 @@ Scan scanXml(const QByteArray &text)
     // A tag begins where the token before it ends; only what stands before the root element is no token.
     int line = 1 + static_cast<int>(text.first(std::max(text.indexOf('<'), qsizetype{0})).count('\n'));
 
+    TagFinder tags(text);
+    Span tag;
+    bool endsWithTag = false;
     const bool isShallow = libconfig::walkXml(text, [&](const QXmlStreamReader &reader) {
         switch (reader.tokenType()) {
         case QXmlStreamReader::StartElement:
-            scan.statements.push_back({Kind::sectionBegins, line, reader.qualifiedName().toString()});
-            for (const QXmlStreamAttribute &attribute : reader.attributes())
-                scan.statements.push_back({Kind::setting, line, attribute.qualifiedName().toString(),
-                                           attribute.value().toString()});
+            tag = tags.takeTag();
+            tags.enter(tag);
+            scan.statements.push_back({.kind = Kind::sectionBegins,
+                                       .line = line,
+                                       .name = reader.qualifiedName().toString(),
+                                       .span = tag});
+            for (const QXmlStreamAttribute &attribute : reader.attributes()) {
+                const auto [span, value] = tags.takeAttribute();
+                scan.statements.push_back({.kind = Kind::setting,
+                                           .line = line,
+                                           .name = attribute.qualifiedName().toString(),
+                                           .value = attribute.value().toString(),
+                                           .span = span,
+                                           .valueSpan = value});
+            }
+            endsWithTag = tags.isWholeElement(tag);
             break;
         case QXmlStreamReader::EndElement:
-            scan.statements.push_back({Kind::sectionEnds, line});
+            tag = std::exchange(endsWithTag, false) ? Span{tag.end, tag.end} : tags.takeTag();
+            scan.statements.push_back({.kind = Kind::sectionEnds, .line = line, .span = tag});
             break;
         case QXmlStreamReader::Characters:
             if (!reader.isWhitespace())
-                scan.statements.push_back({Kind::leftoverText, line, reader.text().trimmed().toString()});
+                scan.statements.push_back(
+                    {.kind = Kind::leftoverText, .line = line, .name = reader.text().trimmed().toString()});
             break;
         case QXmlStreamReader::Comment:
         case QXmlStreamReader::DTD:
         case QXmlStreamReader::EntityReference:
         case QXmlStreamReader::ProcessingInstruction:
-            scan.statements.push_back({Kind::remark, line, reader.text().trimmed().toString()});
+            scan.statements.push_back(
+                {.kind = Kind::remark, .line = line, .name = reader.text().trimmed().toString()});
             break;
         default:
             break;

@@ -5,6 +5,16 @@
 
 #include <vector>
 
+/* A part of a text, in bytes: from the first up to, not including, the last. */
+struct Span
+{
+    qsizetype begin = 0;
+    qsizetype end = 0;
+
+    qsizetype size() const { return end - begin; }
+    bool operator==(const Span &) const = default;
+};
+
 /* One thing that a configuration file says, where it says it. */
 struct Statement
 {
@@ -23,6 +33,12 @@ struct Statement
     QString name = {}; // of a section or a setting; the text, where it is one that the reader passes over
     QString value = {};
     bool complete = true; // false: the file ends before the brace or the semicolon that is due
+
+    // Where the text has it, without the blanks around it: from the name to the brace or the semicolon, from
+    // the closing brace to its semicolon, or the tag or attribute. Of an element that one tag begins and ends
+    // the end is empty.
+    Span span = {};
+    Span valueSpan = {}; // as it is written: in "cfg" text with its quotes, in "xml" text between them
 };
 
 /*
