@@ -536,7 +536,7 @@ void ConfigurationTextTest::everyChangeOfEveryFileTouchesNothingElse()
     QRandomGenerator random(20);
     for (int i = 0; i < count; ++i) {
         // Of a large file some.
-        if (count > 60 && random.bounded(count) > 60)
+        if (count > 15 && random.bounded(count) > 15)
             continue;
         const Entry &entry = configuration.entry(i);
         if (entry.isSetting()) {

@@ -33,12 +33,11 @@ class ConfigurationCheckTest : public QObject
     Q_OBJECT
 
 private:
-    QStringList check(const QByteArray &text, const QString &kind = u"cfg"_s) const
+    QStringList check(const QByteArray &text, const QString &kind = u"cfg"_s)
     {
         QStringList findings;
-        for (const auto &[line, finding] :
-             checkConfiguration(home.writeFile(u"tavolux.conf"_s, text), kind, text))
-            findings.append(QString::number(line) + ": "_L1 + finding);
+        for (const Finding &finding : checkConfiguration(text, kind))
+            findings.append(QString::number(finding.line) + ": "_L1 + finding.text);
         return findings;
     }
 

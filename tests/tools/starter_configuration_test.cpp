@@ -85,7 +85,7 @@ private Q_SLOTS:
         QVERIFY(started);
         QCOMPARE(started->model, &printer);
         QCOMPARE(started->outputs, QStringList(u"/dev/lp0"_s));
-        for (const Finding &finding : checkConfiguration(file, u"cfg"_s, text))
+        for (const Finding &finding : checkConfiguration(text, u"cfg"_s))
             QFAIL(qPrintable(QString::number(finding.line) + ": "_L1 + finding.text));
     }
 
@@ -124,7 +124,7 @@ private Q_SLOTS:
         // Empty, so that a lookup does not tell it from a missing one.
         QCOMPARE(text.count("style = \"\";"), profiles.size());
 
-        for (const Finding &finding : checkConfiguration(file, u"cfg"_s, text))
+        for (const Finding &finding : checkConfiguration(text, u"cfg"_s))
             QFAIL(qPrintable(QString::number(finding.line) + ": "_L1 + finding.text));
     }
 

@@ -171,10 +171,11 @@ ExitStatus check(const Task &task)
     const std::optional<QByteArray> text = textOf(task.file);
     if (!text)
         return exitTrouble;
-    const std::vector<Finding> findings = checkConfiguration(task.file, task.kind, *text);
-    for (const auto &[line, finding] : findings)
-        print(shownFileName(line == 0 ? u"%1: %2"_s.arg(task.file, finding)
-                                      : u"%1:%2: %3"_s.arg(task.file, QString::number(line), finding)));
+    const std::vector<Finding> findings = checkConfiguration(*text, task.kind);
+    for (const Finding &finding : findings)
+        print(shownFileName(finding.line == 0
+                                ? u"%1: %2"_s.arg(task.file, finding.text)
+                                : u"%1:%2: %3"_s.arg(task.file, QString::number(finding.line), finding.text)));
     return findings.empty() ? exitSuccess : exitNegative;
 }
 

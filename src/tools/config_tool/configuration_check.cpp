@@ -4,6 +4,7 @@
 #include "configuration_scan.h"
 #include "document_profile.h"
 #include "escpos_paper.h"
+#include "known_settings.h"
 #include "labels.h"
 #include "logo.h"
 #include "nearest_name.h"
@@ -32,58 +33,28 @@ using Kind = Statement::Kind;
 constexpr QLatin1StringView topSection = "tavolux"_L1;
 constexpr QLatin1StringView languageSection = "tavolux.language"_L1;
 
-enum class ValueKind { text, number, onOff, ofPrinter };
-using KnownSettings = QMap<QString, ValueKind>;
-
 /* A document type's key prefix as the path of its section, without the final dot. */
 QString sectionPath(const DocumentType &type)
 {
     return QString(type.keyPrefix.chopped(1));
 }
 
-/* Every section that is read, by its path, with its settings. */
-const QMap<QString, KnownSettings> &knownSections()
+/* What the paths of the sections in a section are, as far as their names are given. */
+QStringList namesOfSections(const QString &parent)
 {
-    static const auto sections = [] {
-        KnownSettings profile{{DocumentProfile::style, ValueKind::text},
-                              {DocumentProfile::topMargin, ValueKind::number}};
-        for (const auto &width : profileWidths)
-            profile.insert(width.name, ValueKind::number);
-        for (const auto &onOff : profileSwitches)
-            profile.insert(onOff.name, ValueKind::onOff);
-
-        QMap<QString, KnownSettings> known{
-            {topSection, {}},
-            {printersKey, {}},
-            {languageSection, {{u"basedir"_s, ValueKind::text}, {u"file"_s, ValueKind::text}}}};
-        for (const DocumentType &type : documentTypes) {
-            KnownSettings &settings = known[sectionPath(type)] = profile;
-            if (type.name == "fiscal"_L1)
-                settings.insert(DocumentProfile::descriptionWidth, ValueKind::number);
-        }
-        return known;
-    }();
-    return sections;
+    QStringList names;
+    if (parent == topSection)
+        names << printersKey.sliced(topSection.size() + 1);
+    for (const KnownSection &section : knownSections())
+        if (section.key.startsWith(parent + u'.'))
+            names << section.key.sliced(parent.size() + 1);
+    return names;
 }
 
-const KnownSettings &knownPrinterSettings()
+/* Whether anything in a section is ever read. */
+bool isRead(const QString &path)
 {
-    static const auto settings = [] {
-        KnownSettings known;
-        for (const PrinterSetting &setting : printerSettings)
-            known.insert(setting.name, ValueKind::ofPrinter);
-        return known;
-    }();
-    return settings;
-}
-
-/* The settings of a section in another; null when it is never read. */
-const KnownSettings *knownSettings(const QString &parent, const QString &name)
-{
-    if (parent == printersKey)
-        return name.contains(u'.') ? nullptr : &knownPrinterSettings(); // a dot would part its keys
-    const auto section = knownSections().constFind(parent + u'.' + name);
-    return section == knownSections().cend() ? nullptr : &*section;
+    return path == topSection || path == printersKey || !settingsOf(path).empty();
 }
 
 /* What the tightest rows of a kind of document leave for the description. Fiscal documents have no rows. */
@@ -168,11 +139,11 @@ std::optional<int> earlierLine(QHash<QString, int> &lines, const QString &name, 
 class Check
 {
 public:
-    Check(const QString &file, const QString &kind, const QByteArray &text)
+    Check(const QByteArray &text, const QString &kind)
         : m_kind(kind)
         , m_scan(scanConfiguration(text, kind))
-        , m_configuration(file, kind)
     {
+        m_configuration.readText(text, kind);
     }
 
     std::vector<Finding> findings()
@@ -207,13 +178,20 @@ private:
         QString name;
         QString path;
         int line;
-        const KnownSettings *known = nullptr; // what it may hold; null for a section that is never read
+        bool isRead = false;
         bool holdsStatements = false;
         QHash<QString, int> sectionLines = {};
         QHash<QString, int> settingLines = {};
     };
 
-    void add(int line, const QString &text) { m_found.push_back({line, text}); }
+    void add(int line, const QString &text, const QString &key = {}) { m_found.push_back({line, text, key}); }
+
+    // Of a setting or section that is read, by its key or else another one's.
+    void addAt(const QString &key, const QString &text, const QString &otherKey = {})
+    {
+        const QString &noted = m_lineOf.contains(key) ? key : otherKey;
+        add(m_lineOf.value(noted), text, noted);
+    }
 
     void check(const Statement &statement)
     {
@@ -258,7 +236,7 @@ private:
             add(section.line, u"no opening brace follows the section %1"_s.arg(quoted(section.name)));
         else if (section.name.isEmpty())
             add(section.line, u"a section without a name is never read"_s);
-        else if (isLegible(section.line, section.name) && !m_open.empty() && m_open.back().known)
+        else if (isLegible(section.line, section.name) && !m_open.empty() && m_open.back().isRead)
             checkSection(section);
         if (statement.complete)
             m_open.push_back(section);
@@ -287,7 +265,7 @@ private:
         }
         m_firstSection = section.name;
         if (section.name == topSection)
-            section.known = &*knownSections().constFind(topSection);
+            section.isRead = true;
         else
             add(section.line,
                 u"the first section is %1, not \"tavolux\", so nothing in the file is found"_s.arg(
@@ -299,15 +277,12 @@ private:
     {
         OpenSection &parent = m_open.back();
         section.path = parent.path + u'.' + section.name;
-        section.known = knownSettings(parent.path, section.name);
-        if (!section.known) {
-            QStringList names;
-            for (auto path = knownSections().keyBegin(); path != knownSections().keyEnd(); ++path)
-                if (path->startsWith(parent.path + u'.'))
-                    names.append(path->sliced(parent.path.size() + 1));
+        section.isRead = !section.name.contains(u'.') && isRead(section.path); // a dot would part its keys
+        if (!section.isRead) {
             add(section.line,
-                u"%1 is no section of %2 that is ever read%3"_s.arg(quoted(section.name), quoted(parent.path),
-                                                                    suggestion(section.name, names)));
+                u"%1 is no section of %2 that is ever read%3"_s.arg(
+                    quoted(section.name), quoted(parent.path),
+                    suggestion(section.name, namesOfSections(parent.path))));
             return;
         }
         m_lineOf.insert(section.path, m_lineOf.value(section.path, section.line));
@@ -321,78 +296,43 @@ private:
     {
         enterTopSection();
         const QString name = quoted(setting.name);
+        const QString key = (m_open.empty() ? QString() : m_open.back().path + u'.') + setting.name;
         const bool legible = isLegible(setting.line, setting.name);
         if (m_open.empty())
-            add(setting.line, u"%1 is set outside of any section, where it is never found"_s.arg(name));
+            add(setting.line, u"%1 is set outside of any section, where it is never found"_s.arg(name), key);
         if (!setting.complete)
             add(setting.line,
-                u"the value of %1 runs to the end of the file; is a semicolon missing?"_s.arg(name));
+                u"the value of %1 runs to the end of the file; is a semicolon missing?"_s.arg(name), key);
         if (m_kind == "cfg"_L1 && swallowsStatements(setting.value)) {
             add(setting.line,
-                u"the value of %1 takes in %2; is a semicolon missing?"_s.arg(name, quoted(setting.value)));
+                u"the value of %1 takes in %2; is a semicolon missing?"_s.arg(name, quoted(setting.value)),
+                key);
             return;
         }
-        checkCharacters(setting.line, setting.value);
-        if (!legible || m_open.empty() || !m_open.back().known)
+        checkCharacters(setting.line, setting.value, key);
+        if (!legible || m_open.empty() || !m_open.back().isRead)
             return;
 
         OpenSection &section = m_open.back();
-        const KnownSettings &known = *section.known;
-        const auto valueKind = known.constFind(setting.name);
-        if (valueKind == known.cend()) {
+        const KnownSetting *const known = findSetting(key);
+        if (!known) {
+            QStringList names;
+            for (const KnownSetting *other : settingsOf(section.path))
+                names << other->name;
             add(setting.line,
                 u"%1 is no setting of %2 that is ever read%3"_s.arg(name, quoted(section.path),
-                                                                    suggestion(setting.name, known.keys())));
+                                                                    suggestion(setting.name, names)),
+                key);
             return;
         }
-        m_lineOf.insert(section.path + u'.' + setting.name, setting.line);
+        m_lineOf.insert(key, setting.line);
         if (const auto earlier = earlierLine(section.settingLines, setting.name, setting.line))
             add(setting.line,
                 u"%1 is given twice, first in line %2; the last one counts"_s.arg(name,
-                                                                                  QString::number(*earlier)));
-        if (*valueKind == ValueKind::onOff)
-            checkSwitch(setting);
-        else if (*valueKind == ValueKind::number)
-            checkNumber(setting);
-        else if (*valueKind == ValueKind::ofPrinter)
-            checkPrinterSetting(setting);
-    }
-
-    void checkPrinterSetting(const Statement &setting)
-    {
-        const PrinterSetting &known =
-            *std::ranges::find(printerSettings, setting.name, &PrinterSetting::name);
-        PrinterSettings printer;
-        if (setting.value.isEmpty() || known.set(printer, setting.value)) // an empty one counts as missing
-            return;
-        const bool isModel = known.name == "model"_L1;
-        add(setting.line,
-            u"%1 is %2, not %3%4"_s.arg(
-                quoted(setting.name), quoted(setting.value), QString::fromLatin1(known.expected),
-                isModel ? suggestion(setting.value, printerModelNames()) : QString()));
-    }
-
-    void checkSwitch(const Statement &setting)
-    {
-        if (setting.value != "true"_L1 && setting.value != "false"_L1)
-            add(setting.line,
-                u"%1 is %2, neither \"true\" nor \"false\", so it is off"_s.arg(quoted(setting.name),
-                                                                                quoted(setting.value)));
-    }
-
-    void checkNumber(const Statement &setting)
-    {
-        const auto complain = [&](const QString &what) {
-            add(setting.line, u"%1 is %2, %3"_s.arg(quoted(setting.name), quoted(setting.value), what));
-        };
-        bool isNumber = false;
-        const int number = setting.value.toInt(&isNumber);
-        if (!isNumber)
-            complain(u"no usable whole number, so it counts as 0"_s);
-        else if (number < 0)
-            complain(u"a negative number"_s);
-        else if (number > DocumentProfile::widestLine)
-            complain(u"more than any paper holds"_s);
+                                                                                  QString::number(*earlier)),
+                key);
+        if (const QString fault = valueFault(*known, setting.value); !fault.isEmpty())
+            add(setting.line, fault, key);
     }
 
     // Whether a name is one, and nothing more.
@@ -405,12 +345,13 @@ private:
         return false;
     }
 
-    void checkCharacters(int line, const QString &text)
+    void checkCharacters(int line, const QString &text, const QString &key = {})
     {
         if (m_kind == "cfg"_L1 && isUtf8ReadAsLatin1(text))
-            add(line, u"this is UTF-8, but the file is read as Latin-1: %1"_s.arg(quoted(text)));
+            add(line, u"this is UTF-8, but the file is read as Latin-1: %1"_s.arg(quoted(text)), key);
         if (m_kind == "xml"_L1 && std::ranges::any_of(text, [](QChar c) { return c.unicode() > 0xFF; }))
-            add(line, u"characters outside of Latin-1 are read as question marks: %1"_s.arg(quoted(text)));
+            add(line, u"characters outside of Latin-1 are read as question marks: %1"_s.arg(quoted(text)),
+                key);
     }
 
     QString value(const QString &section, QLatin1StringView setting) const
@@ -425,21 +366,20 @@ private:
         QStringList earlierOutputs;
         for (const QString &name : std::as_const(names)) {
             const QString section = printersKey + u'.' + name;
-            const auto line = m_lineOf.constFind(section);
-            if (line == m_lineOf.cend())
+            if (!m_lineOf.contains(section))
                 continue; // named already
             const PrinterSettings printer =
                 printerOfName(m_configuration, name, [](auto &&...) { /* told with their lines */ });
             if (value(section, "model"_L1).isEmpty())
-                add(*line, u"%1 names no model, so it prints plain text"_s.arg(quoted(section)));
+                addAt(section, u"%1 names no model, so it prints plain text"_s.arg(quoted(section)));
             if (value(section, "output"_L1).isEmpty())
-                add(*line, u"%1 names no output, so no document comes to it"_s.arg(quoted(section)));
+                addAt(section, u"%1 names no output, so no document comes to it"_s.arg(quoted(section)));
             else if (std::ranges::all_of(printer.outputs, [&](const QString &output) {
                          return isAmong(earlierOutputs, output);
                      }))
-                add(*line,
-                    u"no document comes to %1: the printers before it have all of its outputs"_s.arg(
-                        quoted(section)));
+                addAt(section,
+                      u"no document comes to %1: the printers before it have all of its outputs"_s.arg(
+                          quoted(section)));
             earlierOutputs += printer.outputs;
             if (printer.model->isPlainText())
                 continue;
@@ -455,9 +395,9 @@ private:
             const QString section = sectionPath(type);
             const QString width = value(section, "paperWidth"_L1);
             if (width.toInt() > printer.columns)
-                add(m_lineOf.value(section + ".paperWidth"_L1),
-                    u"\"paperWidth\" is %1, more than the %2 columns of the printer %3"_s.arg(
-                        quoted(width), QString::number(printer.columns), quoted(printer.name)));
+                addAt(section + ".paperWidth"_L1,
+                      u"\"paperWidth\" is %1, more than the %2 columns of the printer %3"_s.arg(
+                          quoted(width), QString::number(printer.columns), quoted(printer.name)));
         }
     }
 
@@ -466,8 +406,8 @@ private:
         if (printer.storedLogo > 0 || printer.logoFile.isEmpty())
             return;
         if (const QString fault = EscposPaper::logoOf(printer).fault; !fault.isEmpty())
-            add(m_lineOf.value(section + ".logo"_L1),
-                u"the logo %1 is not printed: %2"_s.arg(quoted(value(section, "logo"_L1)), fault));
+            addAt(section + ".logo"_L1,
+                  u"the logo %1 is not printed: %2"_s.arg(quoted(value(section, "logo"_L1)), fault));
     }
 
     void checkLabels(const PrinterSettings &printer, const QString &characters)
@@ -489,9 +429,9 @@ private:
             replaced.append(u"%1 (comes out as %2)"_s.arg(quoted(character), quoted(shown)));
         }
         if (!replaced.isEmpty())
-            add(m_lineOf.value(printersKey + u'.' + printer.name),
-                u"the labels have characters that no code page of the printer %1 has: %2"_s.arg(
-                    quoted(printer.name), replaced.join(", "_L1)));
+            addAt(printersKey + u'.' + printer.name,
+                  u"the labels have characters that no code page of the printer %1 has: %2"_s.arg(
+                      quoted(printer.name), replaced.join(", "_L1)));
     }
 
     // What a paperWidth of 0 becomes on the narrowest printer.
@@ -512,7 +452,8 @@ private:
             if (profile.paperWidth == 0)
                 profile.paperWidth = devicePaperWidth;
             if (const int width = (profile.*descriptionWidth)(); width <= 0)
-                add(m_lineOf.value(section),
+                addAt(
+                    section,
                     u"%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3"_s
                         .arg(quoted(section), QString::number(profile.paperWidth),
                              QString::number(profile.paperWidth - width)));
@@ -540,13 +481,13 @@ private:
                 checkLabels(printer, characters);
             return;
         }
-        add(m_lineOf.value(languageSection + ".file"_L1, m_lineOf.value(languageSection + ".basedir"_L1)),
-            u"the translation \"%1\" is not found"_s.arg(name));
+        addAt(languageSection + ".file"_L1, u"the translation \"%1\" is not found"_s.arg(name),
+              languageSection + ".basedir"_L1);
     }
 
     const QString m_kind;
     const Scan m_scan;
-    const TXConfiguration m_configuration;
+    TXConfiguration m_configuration{{}, {}};
     std::vector<Finding> m_found;
     std::vector<OpenSection> m_open;
     QString m_firstSection;
@@ -556,7 +497,7 @@ private:
 
 } // namespace
 
-std::vector<Finding> checkConfiguration(const QString &file, const QString &kind, const QByteArray &text)
+std::vector<Finding> checkConfiguration(const QByteArray &text, const QString &kind)
 {
-    return Check(file, kind, text).findings();
+    return Check(text, kind).findings();
 }
