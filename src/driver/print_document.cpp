@@ -81,6 +81,8 @@ public:
         if (m_reading.end == Reading::End::document) {
             m_reading.end = Reading::End::fault;
             m_reading.reason = m_document.excess().isEmpty() ? fault.message() : m_document.excess();
+            if (m_reading.reason.endsWith(u'.'))
+                m_reading.reason.chop(1);
         }
         return false;
     }
