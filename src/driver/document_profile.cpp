@@ -41,11 +41,30 @@ constexpr ProfileSetting<bool> switches[] = {
     {"openCashDrawer"_L1, &DocumentProfile::openCashDrawer},
 };
 
+constexpr SwitchedPart parts[] = {
+    {"geometry"_L1, ""_L1, &DocumentProfile::printGeometry},
+    {"headers"_L1, ""_L1, &DocumentProfile::printHeader},
+    {"company"_L1, ""_L1, &DocumentProfile::printCompany},
+    {"orderinfo"_L1, "date"_L1, &DocumentProfile::printDate},
+    {"orderinfo"_L1, "time"_L1, &DocumentProfile::printTime},
+    {"orderinfo"_L1, "table"_L1, &DocumentProfile::printTable},
+    {"orderinfo"_L1, "waiter"_L1, &DocumentProfile::printWaiter},
+    {"orderinfo"_L1, "note"_L1, &DocumentProfile::printNote},
+    {"orderinfo"_L1, "credit"_L1, &DocumentProfile::printCredit},
+    {"customer"_L1, ""_L1, &DocumentProfile::printCustomer},
+    {"customer"_L1, "billingaddress"_L1, &DocumentProfile::printBillingAddress},
+    {"customer"_L1, "deliveryaddress"_L1, &DocumentProfile::printDeliveryAddress},
+    {"customer"_L1, "telephone"_L1, &DocumentProfile::printTelephone},
+    {"customer"_L1, "licensenumber"_L1, &DocumentProfile::printLicenseNumber},
+    {"customer"_L1, "fiscalcode"_L1, &DocumentProfile::printFiscalCode},
+};
+
 } // namespace
 
 constexpr std::span<const ProfileSetting<int>> profileWidths = widths;
 constexpr std::span<const ProfileSetting<bool>> profileSwitches = switches;
 constexpr std::span<const DocumentType> documentTypes = allTypes;
+constexpr std::span<const SwitchedPart> switchedParts = parts;
 
 DocumentProfile DocumentProfile::load(const std::function<QString(QLatin1StringView setting)> &value)
 {

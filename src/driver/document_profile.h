@@ -79,6 +79,17 @@ struct DocumentType
     QLatin1StringView keyPrefix;
 };
 
+/* What a switch keeps off the paper while it is off. */
+struct SwitchedPart
+{
+    QLatin1StringView element; // a header block
+    QLatin1StringView attribute; // of which this one is not printed; empty: none of its lines is
+    bool DocumentProfile::*wanted;
+};
+
+// The parts of a block after the whole block.
+extern const std::span<const SwitchedPart> switchedParts;
+
 // In the order in which they are read and looked up.
 extern const std::span<const ProfileSetting<int>> profileWidths;
 extern const std::span<const ProfileSetting<bool>> profileSwitches;

@@ -38,6 +38,12 @@ const PrinterDriver::DocumentMethod *PrinterDriver::documentMethod(const QString
     return method == std::end(methods) ? nullptr : method;
 }
 
+QLatin1StringView PrinterDriver::documentTypeOf(const QString &method)
+{
+    const DocumentMethod *const known = documentMethod(method);
+    return known ? known->documentType : QLatin1StringView();
+}
+
 bool PrinterDriver::startDocument()
 {
     reset();

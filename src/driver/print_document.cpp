@@ -33,28 +33,28 @@ QXmlAttributes withoutNamespaceDeclarations(const QXmlAttributes &attributes)
     return others;
 }
 
-/* What the reader calls: hands the document on to the driver, within the bounds, and notes how it ended. */
+/* What the reader calls: hands the document on to a handler, within the bounds, and notes how it ended. */
 class DocumentHandler : public QXmlDefaultHandler
 {
 public:
-    DocumentHandler(BoundedDocument &document, PrinterDriver &driver)
+    DocumentHandler(BoundedDocument &document, QXmlDefaultHandler &handler)
         : m_document(document)
-        , m_driver(driver)
+        , m_handler(handler)
     {
     }
 
-    bool startDocument() override { return m_driver.startDocument(); }
-    bool endDocument() override { return m_driver.endDocument(); }
+    bool startDocument() override { return m_handler.startDocument(); }
+    bool endDocument() override { return m_handler.endDocument(); }
 
     bool startElement(const QString &namespaceURI, const QString &localName, const QString &qName,
                       const QXmlAttributes &attributes) override
     {
         if (!m_document.descend())
             return false;
-        // The driver alone stops the reader, at an unknown method.
+        // The handler alone stops the reader, at an unknown method.
         const bool known = hasNamespaceDeclaration(attributes)
-            ? m_driver.startElement(namespaceURI, localName, qName, withoutNamespaceDeclarations(attributes))
-            : m_driver.startElement(namespaceURI, localName, qName, attributes);
+            ? m_handler.startElement(namespaceURI, localName, qName, withoutNamespaceDeclarations(attributes))
+            : m_handler.startElement(namespaceURI, localName, qName, attributes);
         if (!known) {
             m_reading.end = Reading::End::unknownMethod;
             m_reading.reason = u"unknown method \"%1\""_s.arg(attributes.value(u"name"_s));
@@ -64,8 +64,10 @@ public:
 
     bool endElement(const QString &namespaceURI, const QString &localName, const QString &qName) override
     {
-        return m_driver.endElement(namespaceURI, localName, qName);
+        return m_handler.endElement(namespaceURI, localName, qName);
     }
+
+    bool characters(const QString &text) override { return m_handler.characters(text); }
 
     bool internalEntityDecl(const QString &name, const QString &value) override
     {
@@ -79,6 +81,8 @@ public:
         if (m_reading.end == Reading::End::document) {
             m_reading.end = Reading::End::fault;
             m_reading.reason = m_document.excess().isEmpty() ? fault.message() : m_document.excess();
+            if (m_reading.reason.endsWith(u'.'))
+                m_reading.reason.chop(1);
         }
         return false;
     }
@@ -87,11 +91,25 @@ public:
 
 private:
     BoundedDocument &m_document;
-    PrinterDriver &m_driver;
+    QXmlDefaultHandler &m_handler;
     Reading m_reading;
 };
 
 } // namespace
+
+Reading readDocument(BoundedDocument &document, QXmlDefaultHandler &handler)
+{
+    DocumentHandler reading(document, handler);
+    QXmlSimpleReader reader;
+    // Nothing looks at namespaces, and processing them takes the reader memory and time by the square of
+    // their declarations.
+    reader.setFeature(u"http://xml.org/sax/features/namespaces"_s, false);
+    reader.setContentHandler(&reading);
+    reader.setDeclHandler(&reading);
+    reader.setErrorHandler(&reading);
+    reader.parse(document);
+    return reading.reading();
+}
 
 Reading printDocument(QIODevice &document, PrinterDriver &driver)
 {
@@ -99,15 +117,7 @@ Reading printDocument(QIODevice &document, PrinterDriver &driver)
         return {Reading::End::unreadable, 0, 0, document.errorString()};
 
     BoundedDocument source(document);
-    DocumentHandler handler(source, driver);
-    QXmlSimpleReader reader;
-    // Nothing looks at namespaces, and processing them takes the reader memory and time by the square of
-    // their declarations.
-    reader.setFeature(u"http://xml.org/sax/features/namespaces"_s, false);
-    reader.setContentHandler(&handler);
-    reader.setDeclHandler(&handler);
-    reader.setErrorHandler(&handler);
-    reader.parse(source);
-    driver.finish(handler.reading().complete() ? Ending::complete : Ending::incomplete);
-    return handler.reading();
+    const Reading reading = readDocument(source, driver);
+    driver.finish(reading.complete() ? Ending::complete : Ending::incomplete);
+    return reading;
 }

@@ -2,8 +2,10 @@
 
 #include <QString>
 
+class BoundedDocument;
 class PrinterDriver;
 class QIODevice;
+class QXmlDefaultHandler;
 
 /* How the reading of a document ended. */
 struct Reading
@@ -22,6 +24,13 @@ struct Reading
 
     bool complete() const { return end == End::document; }
 };
+
+/*
+ * Reads one document with the handler, within the bounds. It is told of the document's begin and end, of
+ * elements without their namespace declarations, and of text; false at a start tag ends the reading at an
+ * unknown method.
+ */
+Reading readDocument(BoundedDocument &document, QXmlDefaultHandler &handler);
 
 /*
  * Reads one document with the driver, which prints it, and finishes the driver: all of the printout is on its

@@ -48,6 +48,9 @@ public:
      * line on standard output and gets the pre-fiscal prefix. */
     QString documentPath(const QString &docType) const;
 
+    /* The document type whose profile a method prints with; empty when there is no such method. */
+    static QLatin1StringView documentTypeOf(const QString &method);
+
     /* Loads the profile of a document type. A paper width of 0 becomes the device's. */
     void loadValues(const QString &docType);
 

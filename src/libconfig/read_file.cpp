@@ -11,27 +11,35 @@
 
 using namespace Qt::StringLiterals;
 
-FileContent readRegularFile(const QString &name)
+FileFault openRegularFile(QFile &file, const QString &name)
 {
     const QByteArray path = fileNameBytes(name);
     struct stat status = {};
     if (stat(path.constData(), &status) != 0) {
         const int error = errno;
-        return {{}, qt_error_string(error), error == ENOENT};
+        return {qt_error_string(error), error == ENOENT};
     }
     if (!S_ISREG(status.st_mode))
-        return {{}, notRegularFile()};
+        return {notRegularFile()};
     // Should it become a FIFO meanwhile, nobody waits for it.
     const int descriptor = open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0) {
         const int error = errno;
-        return {{}, qt_error_string(error)};
+        return {qt_error_string(error)};
     }
-    QFile file;
     file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    FileContent content{file.readAll()};
+    return {};
+}
+
+FileContent readRegularFile(const QString &name)
+{
+    QFile file;
+    FileContent content{openRegularFile(file, name)};
+    if (!content.fault.isEmpty())
+        return content;
+    content.bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        content = {{}, file.errorString()};
+        return {{file.errorString()}};
     return content;
 }
 

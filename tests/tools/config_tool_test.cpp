@@ -51,9 +51,10 @@ private Q_SLOTS:
         QCOMPARE(result.exitStatus, 0);
         QCOMPARE(result.standardError, "");
         for (const char *text :
-             {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "init", "models", "test-page [OUT]",
-              "edit", "--file <FILE>", "--type <cfg|xml>", "--columns <32|40|42|48>",
-              "--printer <MODEL|NAME>", "--output <FILE>", "--force", "--help", "--version"})
+             {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "check-document DOC", "init",
+              "models", "test-page [OUT]", "edit", "--file <FILE>", "--type <cfg|xml>",
+              "--columns <32|40|42|48>", "--printer <MODEL|NAME>", "--output <FILE>", "--force", "--quiet",
+              "--help", "--version"})
             QVERIFY2(result.standardOutput.contains(text), text);
     }
 
@@ -95,6 +96,12 @@ private Q_SLOTS:
             << QStringList{u"check"_s, u"--columns"_s, u"42"_s} << QByteArray("--columns is for init");
         QTest::newRow("force where it means nothing")
             << QStringList{u"check"_s, u"--force"_s} << QByteArray("--force is for write and write-xml");
+        QTest::newRow("quiet where it means nothing")
+            << QStringList{u"tree"_s, u"--quiet"_s} << QByteArray("--quiet is for check and check-document");
+        QTest::newRow("check of no document")
+            << QStringList{u"check-document"_s} << QByteArray("check-document needs DOC");
+        QTest::newRow("check of two documents") << QStringList{u"check-document"_s, u"x"_s, u"y"_s}
+                                                << QByteArray("check-document does not take \"y\"");
         QTest::newRow("columns of no paper") << QStringList{u"init"_s, u"--columns"_s, u"41"_s}
                                              << QByteArray("\"41\" columns are none of 32|40|42|48");
         QTest::newRow("columns that are no number") << QStringList{u"init"_s, u"--columns"_s, u"wide"_s}
@@ -382,6 +389,10 @@ private Q_SLOTS:
                      + ":2: \"paperWidth\" is \"wide\", no usable whole number, so it counts as 0\n");
         QCOMPARE(result.standardError, "");
 
+        result = run({u"check"_s, u"--file"_s, file, u"--quiet"_s});
+        QCOMPARE(result.exitStatus, 1);
+        QCOMPARE(result.standardOutput, "");
+
         const QString empty = home->writeFile(u"empty.conf"_s, "");
         result = run({u"check"_s, u"--file"_s, empty});
         QCOMPARE(result.exitStatus, 1);
@@ -394,6 +405,69 @@ private Q_SLOTS:
         QCOMPARE(result.exitStatus, 0);
         QCOMPARE(result.standardOutput, "");
         QCOMPARE(result.standardError, "");
+    }
+
+    // With a user's own configuration, which hides the waiter, and without one.
+    void checkDocument_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("configured");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<int>("exitStatus");
+        QTest::addColumn<QByteArray>("findings");
+
+        const QByteArray begin = "<d>\n<method name='printSold'/>\n<orderinfo date='1'\n waiter='2'/>\n";
+        const QByteArray right = begin + "</d>\n";
+        const QByteArray wrong = begin + "<sold><recipe/></sold></d>\n";
+        const QByteArray hidden = "DOC:4: \"waiter\" is not printed: tavolux.solddoc.printWaiter is off\n";
+        const QByteArray finding =
+            "DOC:5: \"recipe\" is no element that printSold reads; did you mean \"receipe\"?\n";
+
+        QTest::newRow("right") << right << false << QStringList() << 0 << ""_ba;
+        QTest::newRow("wrong") << wrong << false << QStringList() << 1 << finding;
+        QTest::newRow("wrong, quietly") << wrong << false << QStringList{u"--quiet"_s} << 1 << ""_ba;
+        QTest::newRow("hidden is not wrong") << right << true << QStringList() << 0 << hidden;
+        QTest::newRow("hidden, quietly") << right << true << QStringList{u"-q"_s} << 0 << ""_ba;
+        QTest::newRow("hidden and wrong") << wrong << true << QStringList() << 1 << hidden + finding;
+    }
+    void checkDocument()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const bool, configured);
+        QFETCH(const QStringList, options);
+        QFETCH(const int, exitStatus);
+        QFETCH(QByteArray, findings);
+        if (configured)
+            home->writeConfiguration("tavolux : { solddoc : { printDate = true; }; };");
+        const QString document = home->writeFile(u"order.xml"_s, text);
+        const ProgramResult result = run(options + QStringList{u"check-document"_s, document});
+        QCOMPARE(result.standardOutput, findings.replace("DOC", document.toUtf8()));
+        QCOMPARE(result.standardError, "");
+        QCOMPARE(result.exitStatus, exitStatus);
+    }
+
+    void unreadableDocument()
+    {
+        const auto verify = [&](const QStringList &options, const QString &document, const QString &message) {
+            const ProgramResult result = run(options + QStringList{u"check-document"_s, document});
+            QCOMPARE(result.exitStatus, 2);
+            QCOMPARE(result.standardOutput, "");
+            QCOMPARE(result.standardError, "tavolux-config: cannot read " + message.toUtf8() + '\n');
+        };
+        const QString missing = home->filePath(u"missing"_s);
+        verify({}, missing, missing + ": No such file or directory"_L1);
+        verify({}, QString(), u": No such file or directory"_s);
+        verify({}, home->path(), home->path() + ": Not a regular file"_L1);
+        const QString pipe = home->makeFifo(u"pipe"_s); // reading it would wait for a writer
+        verify({}, pipe, pipe + ": Not a regular file"_L1);
+
+        // A configuration that is asked for.
+        const QString document = home->writeFile(u"order.xml"_s, "<d/>");
+        verify({u"--file"_s, home->path()}, document, home->path() + ": Not a regular file"_L1);
+        verify({u"--file"_s, missing}, document,
+               missing
+                   + ": No such file or directory\n"
+                     "tavolux-config: \"tavolux-config init\" writes a configuration to start from"_L1);
     }
 
     void checkOfTheTranslation_data()

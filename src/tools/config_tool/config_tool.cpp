@@ -2,6 +2,7 @@
 
 #include "configuration_check.h"
 #include "configuration_scan.h"
+#include "document_check.h"
 #include "file_name.h"
 #include "losses.h"
 #include "nearest_name.h"
@@ -15,6 +16,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -62,6 +64,7 @@ struct Task
     std::optional<QString> printer = {};
     std::optional<QString> output = {};
     bool force = false;
+    bool quiet = false;
 };
 
 QString suggestion(const QString &name, const QStringList &known)
@@ -166,17 +169,51 @@ ExitStatus writeXml(const Task &task)
     return writeAs("xml"_L1, task);
 }
 
+void printFindings(const QString &file, const std::vector<Finding> &findings)
+{
+    for (const auto &[line, finding] : findings)
+        print(shownFileName(line == 0 ? u"%1: %2"_s.arg(file, finding)
+                                      : u"%1:%2: %3"_s.arg(file, QString::number(line), finding)));
+}
+
 ExitStatus check(const Task &task)
 {
     const std::optional<QByteArray> text = textOf(task.file);
     if (!text)
         return exitTrouble;
     const std::vector<Finding> findings = checkConfiguration(*text, task.kind);
-    for (const Finding &finding : findings)
-        print(shownFileName(finding.line == 0
-                                ? u"%1: %2"_s.arg(task.file, finding.text)
-                                : u"%1:%2: %3"_s.arg(task.file, QString::number(finding.line), finding.text)));
+    if (!task.quiet)
+        printFindings(task.file, findings);
     return findings.empty() ? exitSuccess : exitNegative;
+}
+
+ExitStatus checkDocumentFile(const Task &task)
+{
+    QFile document;
+    if (const auto [fault, isMissing] = openRegularFile(document, task.argument); !fault.isEmpty()) {
+        complain(u"cannot read %1: %2"_s.arg(task.argument, fault));
+        return exitTrouble;
+    }
+    // Without a configuration of one's own the document is looked at alone.
+    std::optional<TXConfiguration> configuration;
+    if (task.file != TXConfiguration::userFile() || QFile::exists(task.file)) {
+        if (!readSource(task))
+            return exitTrouble;
+        configuration.emplace(task.file, task.kind);
+    }
+
+    const auto [wrong, hidden] = checkDocument(document, configuration ? &*configuration : nullptr);
+    if (document.error() != QFileDevice::NoError) {
+        complain(u"cannot read %1: %2"_s.arg(task.argument, document.errorString()));
+        return exitTrouble;
+    }
+    if (!task.quiet) {
+        std::vector<Finding> all;
+        std::ranges::merge(wrong, hidden, std::back_inserter(all), {}, &Finding::line, &Finding::line);
+        printFindings(task.argument, all);
+    }
+    // Deliberate: what the configuration hides is as its owner wants it, and no fault of the document.
+    return wrong.empty() ? exitSuccess : exitNegative;
 }
 
 /* What a configuration to start from is made for. */
@@ -351,6 +388,8 @@ constexpr Command commands[] = {
     {"write"_L1, "OUT"_L1, "write the configuration to OUT, of the kind cfg"_L1, writeCfg},
     {"write-xml"_L1, "OUT"_L1, "write the configuration to OUT, of the kind xml"_L1, writeXml},
     {"check"_L1, ""_L1, "name what the printing program passes over in silence"_L1, check},
+    {"check-document"_L1, "DOC"_L1, "name what printing the document DOC passes over in silence"_L1,
+     checkDocumentFile},
     {"init"_L1, ""_L1, "write a complete configuration to start from"_L1, init},
     {"models"_L1, ""_L1, "list the models of receipt printers"_L1, printModels},
     {"test-page"_L1, "[OUT]"_L1,
@@ -363,13 +402,14 @@ QString commandHelp()
     QString help =
         u"Shows, checks, writes and edits a configuration of the document printer.\n\nCommands:\n"_s;
     for (const Command &command : commands)
-        help += u"  %1  %2\n"_s.arg(QString(command.name + u' ' + command.argument).leftJustified(15),
+        help += u"  %1  %2\n"_s.arg(QString(command.name + u' ' + command.argument).leftJustified(18),
                                     command.help);
     return help
         + "\nThe exit status is 0 when all is well, 1 when a value is empty, a check found something, OUT "
           "is not\n"
-          "written whole or the file to begin exists, and 2 after wrong usage, when FILE cannot be read or\n"
-          "begun, has no such printer, or when there is no editor or no display for it."_L1;
+          "written whole or the file to begin exists, and 2 after wrong usage, when FILE or DOC cannot be "
+          "read\n"
+          "or FILE cannot be begun, has no such printer, or when there is no editor or no display for it."_L1;
 }
 
 const Command *findCommand(const QString &name)
@@ -405,14 +445,16 @@ ExitStatus runCommand(const QStringList &arguments)
         u"output"_s, u"For init: the file or device that the printer prints."_s, u"FILE"_s);
     const QCommandLineOption forceOption(
         u"force"_s, u"For write and write-xml: write OUT though settings or other text are lost."_s);
+    const QCommandLineOption quietOption({u"q"_s, u"quiet"_s},
+                                         u"For check and check-document: print no findings."_s);
     const QCommandLineOption helpOption({u"h"_s, u"help"_s}, u"Shows this help."_s);
     const QCommandLineOption versionOption({u"v"_s, u"version"_s}, u"Shows the version."_s);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(commandHelp());
     parser.addOptions({fileOption, kindOption, columnsOption, printerOption, outputOption, forceOption,
-                       helpOption, versionOption});
-    parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s, u"COMMAND [KEY|OUT]"_s);
+                       quietOption, helpOption, versionOption});
+    parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s, u"COMMAND [KEY|OUT|DOC]"_s);
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     if (parser.isSet(helpOption)) {
@@ -440,6 +482,7 @@ ExitStatus runCommand(const QStringList &arguments)
         return refuse(u"the name of the configuration is empty"_s);
     Task task{.file = parser.value(fileOption), .kind = parser.value(kindOption), .argument = words.value(1)};
     task.force = parser.isSet(forceOption);
+    task.quiet = parser.isSet(quietOption);
     if (parser.isSet(columnsOption))
         task.columns = parser.value(columnsOption).toInt();
     if (parser.isSet(printerOption))
@@ -456,6 +499,8 @@ ExitStatus runCommand(const QStringList &arguments)
         return refuse(u"--printer is for init and test-page"_s);
     if (task.force && command->run != writeCfg && command->run != writeXml)
         return refuse(u"--force is for write and write-xml"_s);
+    if (task.quiet && command->run != check && command->run != checkDocumentFile)
+        return refuse(u"--quiet is for check and check-document"_s);
     if (task.columns && !starterPaperWidths().contains(*task.columns))
         return refuse(u"\"%1\" columns are none of %2"_s.arg(parser.value(columnsOption), widthsText()));
     return command->run(task);
