@@ -1,5 +1,6 @@
 #include "compile.h"
 
+#include "confirmed_output.h"
 #include "diagnostic.h"
 #include "file_name.h"
 #include "labels.h"
@@ -83,13 +84,21 @@ void compile(int argc, char *argv[])
     QCoreApplication::installTranslator(&translator);
 
     // The names are the bytes of the command line, of whatever encoding.
-    const std::unique_ptr<PrinterDriver> driver =
-        makeDriver(configuration,
-                   std::make_unique<PrintOutput>(fileNameFromBytes(argv[2]), PrintOutput::Opening::truncate));
-    printing = driver.get();
+    const QString outputPath = fileNameFromBytes(argv[2]);
+    ConfirmedOutput confirmed;
+    if (isAskedForStatus(configuration, outputPath))
+        confirmed.open(outputPath);
+    const std::unique_ptr<PrinterDriver> driver = makeDriver(
+        configuration,
+        confirmed.isOpen() ? confirmed.printout()
+                           : std::make_unique<PrintOutput>(outputPath, PrintOutput::Opening::truncate));
+    // Of what is sent as a whole nothing is sent when memory runs out.
+    printing = confirmed.isOpen() ? nullptr : driver.get();
     const int input = open(argv[1], O_RDONLY | O_CLOEXEC);
     QFile document;
     if (input >= 0 && document.open(input, QIODevice::ReadOnly, QFile::AutoCloseHandle))
         printDocument(document, *driver);
     printing = nullptr;
+    if (confirmed.isOpen())
+        confirmed.send();
 }

@@ -115,10 +115,11 @@ bool setLogo(PrinterSettings &settings, const QString &value)
     return true;
 }
 
-bool setDuplicate(PrinterSettings &settings, const QString &value)
+template <bool PrinterSettings::*field>
+bool setSwitch(PrinterSettings &settings, const QString &value)
 {
-    settings.duplicate = value == "true"_L1;
-    return settings.duplicate || value == "false"_L1;
+    settings.*field = value == "true"_L1;
+    return settings.*field || value == "false"_L1;
 }
 
 constexpr PrinterSetting allSettings[] = {
@@ -131,7 +132,8 @@ constexpr PrinterSetting allSettings[] = {
     {"drawerPin"_L1, "2 or 5", &setDrawerPin},
     {"drawerPulse"_L1, "two times from 2 to 510 ms", &setDrawerPulse},
     {"logo"_L1, "a PNG file, or stored: with a number from 1 to 255", &setLogo},
-    {"duplicate"_L1, "true or false", &setDuplicate},
+    {"duplicate"_L1, "true or false", &setSwitch<&PrinterSettings::duplicate>},
+    {"status"_L1, "true or false", &setSwitch<&PrinterSettings::status>},
 };
 
 QByteArray resolved(const QByteArray &path)
@@ -216,7 +218,8 @@ bool fitsOutput(const QStringList &outputs, const QByteArray &path)
     });
 }
 
-std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configuration, const QString &path)
+std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configuration, const QString &path,
+                                                const SettingFault &tellFault)
 {
     const QStringList names = printerNames(configuration);
     if (names.isEmpty())
@@ -226,7 +229,7 @@ std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configura
     for (const QString &name : names) {
         const QStringList outputs = parts(configuration.getStrValue(settingKey(name, "output"_L1)));
         if (fitsOutput(outputs, given) || fitsOutput(outputs, real))
-            return printerOfName(configuration, name);
+            return printerOfName(configuration, name, tellFault);
     }
     return {};
 }

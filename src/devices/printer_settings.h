@@ -46,6 +46,7 @@ struct PrinterSettings
     QString logoFile; // a PNG file; empty for none
     int storedLogo = 0; // the number of a logo kept in the printer, 0 for none
     bool duplicate = false; // a document that is to be printed twice is
+    bool status = false; // the printer is asked for its state when documents are printed
 };
 
 /* A setting of a printer. */
@@ -95,4 +96,5 @@ bool fitsOutput(const QStringList &outputs, const QByteArray &path);
 
 /* The printer of the first section whose outputs fit the path, as it stands or as it is when all links are
  * followed; none without such a section. */
-std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configuration, const QString &path);
+std::optional<PrinterSettings> printerForOutput(const TXConfiguration &configuration, const QString &path,
+                                                const SettingFault &tellFault = printSettingFault);

@@ -36,12 +36,12 @@ Outcome printConfirmed(PrinterPort &port, std::string_view job, AnswersStatus an
     const PortResult sent = port.send(job, events.stalled);
     if (sent != PortResult::Done && port.sent() == 0)
         return Outcome::Failed;
-    if (sent == PortResult::Cancelled)
+    if (sent == PortResult::Cancelled || sent == PortResult::Silent)
         port.restore(job.size() - port.sent());
     if (sent != PortResult::Done)
         return Outcome::Uncertain;
 
     if (mute)
-        return port.finish() == PortResult::Done ? Outcome::Mute : Outcome::Uncertain;
+        return port.finish(events.stalled) == PortResult::Done ? Outcome::Mute : Outcome::Uncertain;
     return port.confirm(events.status) == PortResult::Done ? Outcome::Printed : Outcome::Uncertain;
 }

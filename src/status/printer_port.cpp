@@ -18,6 +18,7 @@ namespace {
 
 constexpr auto initialise = "\x1B\x40"sv;
 constexpr auto inSequenceQuery = "\x1D\x72\x01"sv;
+constexpr int mostBlocks = 64; // that are read at a time
 
 bool isSocket(int descriptor)
 {
@@ -78,14 +79,8 @@ PortResult PrinterPort::pause()
 PortResult PrinterPort::send(std::string_view bytes, const std::function<void()> &stalled)
 {
     while (!bytes.empty()) {
-        const PortResult writable = wait(POLLOUT, m_limits.answer);
-        if (writable == PortResult::Cancelled)
+        if (const PortResult writable = waitToWrite(stalled); writable != PortResult::Done)
             return writable;
-        if (writable == PortResult::Silent) {
-            if (stalled)
-                stalled();
-            continue;
-        }
         std::size_t written = 0;
         if (const PortResult result = write(bytes, written); result != PortResult::Done)
             return result;
@@ -148,17 +143,14 @@ void PrinterPort::restore(std::size_t unsent)
         wait(POLLOUT, until, -1);
 }
 
-PortResult PrinterPort::finish()
+PortResult PrinterPort::finish(const std::function<void()> &stalled)
 {
     if (m_isSocket) {
         const PortResult result = receive();
         shutdown(m_descriptor, SHUT_WR);
         return result;
     }
-    PortResult result = PortResult::Silent;
-    while (result == PortResult::Silent)
-        result = wait(POLLOUT, m_limits.pause);
-    return result;
+    return waitToWrite(stalled);
 }
 
 /* Waits for the events of poll; Silent when the time has come before them. */
@@ -202,10 +194,26 @@ PortResult PrinterPort::waitFor(const bool &answer, Clock::time_point until)
     return PortResult::Done;
 }
 
-/* Takes what the printer has sent, without waiting. */
+PortResult PrinterPort::waitToWrite(const std::function<void()> &stalled)
+{
+    const Clock::time_point since = Clock::now();
+    for (;;) {
+        const PortResult result = wait(POLLOUT, m_limits.answer);
+        if (result != PortResult::Silent)
+            return result;
+        if (stalled)
+            stalled();
+        if (m_limits.stall > 0ms && Clock::now() - since >= m_limits.stall) {
+            m_fault = "the printer takes nothing";
+            return result;
+        }
+    }
+}
+
+/* Takes what the printer has sent, without waiting: a part of it when that has no end. */
 PortResult PrinterPort::receive()
 {
-    for (;;) {
+    for (int block = 0; block < mostBlocks; ++block) {
         std::array<unsigned char, 256> bytes = {};
         const ssize_t count = read(m_descriptor, bytes.data(), bytes.size());
         if (count < 0 && errno == EINTR)
@@ -231,6 +239,7 @@ PortResult PrinterPort::receive()
             }
         }
     }
+    return PortResult::Done;
 }
 
 /* Writes what can be written without waiting. */

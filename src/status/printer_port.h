@@ -25,6 +25,7 @@ struct PortLimits
     std::chrono::milliseconds perByte{
         5}; // and so much more for each byte: impact printers print 200 in a second
     std::chrono::milliseconds restoring{500}; // to take what ends a job that was cut short
+    std::chrono::milliseconds stall{0}; // to take the next byte of a job; 0: however long that is
 };
 
 /*
@@ -46,8 +47,8 @@ public:
     /* Waits for the time between two rounds of queries; Done when it has passed. */
     PortResult pause();
 
-    /* Sends bytes of a job, however long the printer takes. Calls stalled each time that it has taken nothing
-     * for as long as an answer may take. Never Silent. */
+    /* Sends bytes of a job, however long the printer takes for all. Calls stalled each time that it has taken
+     * nothing for as long as an answer may take. Silent when the limit of a stall is reached. */
     PortResult send(std::string_view bytes, const std::function<void()> &stalled = {});
 
     /* Asks the printer in sequence, and waits for its answer: all that was sent has been processed. Meanwhile
@@ -63,9 +64,9 @@ public:
      */
     void restore(std::size_t unsent);
 
-    /* To be called before the descriptor is closed after a job that is not confirmed: waits until a device
-     * has taken everything; tells a connected printer that nothing follows. */
-    PortResult finish();
+    /* To be called before the descriptor is closed after a job that is not confirmed: waits, as send does,
+     * until a device has taken everything; tells a connected printer that nothing follows. */
+    PortResult finish(const std::function<void()> &stalled = {});
 
     /* How many bytes given to send have left this program. */
     std::size_t sent() const { return m_sent; }
@@ -82,6 +83,7 @@ private:
     PortResult wait(short events, Clock::time_point until, int cancellation);
     PortResult wait(short events, std::chrono::milliseconds time);
     PortResult waitFor(const bool &answer, Clock::time_point until);
+    PortResult waitToWrite(const std::function<void()> &stalled);
     PortResult receive();
     PortResult write(std::string_view bytes, std::size_t &written);
     PortResult lost(const std::string &fault);

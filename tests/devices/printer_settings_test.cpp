@@ -39,7 +39,7 @@ QString shown(const PrinterSettings &settings)
                .arg(settings.drawerPulse.offMilliseconds)
                .arg(settings.storedLogo > 0 ? u"stored %1"_s.arg(settings.storedLogo)
                                             : u'"' + settings.logoFile + u'"')
-        + (settings.duplicate ? u", duplicate"_s : QString());
+        + (settings.duplicate ? u", duplicate"_s : QString()) + (settings.status ? u", status"_s : QString());
 }
 
 const QString zj5870 = u"zj-5870: 32 columns, 1252=16 852=18 866=17 850=2 437=0, cut none, feed 4, pin 2, "
@@ -80,11 +80,12 @@ void PrinterSettingsTest::settings_data()
     good(
         "everything",
         "columns = 42; codePages = \" 858 = 19,1252=16 \"; cut = partial; feed = 0; drawerPin = 5;"
-        "drawerPulse = \"100, 200\"; logo = /etc/l.png; duplicate = true; model = zj-5870;",
-        u"zj-5870: 42 columns, 858=19 1252=16, cut partial, feed 0, pin 5, 100/200 ms, logo \"/etc/l.png\", duplicate"_s);
+        "drawerPulse = \"100, 200\"; logo = /etc/l.png; duplicate = true; status = true; model = zj-5870;",
+        u"zj-5870: 42 columns, 858=19 1252=16, cut partial, feed 0, pin 5, 100/200 ms, logo \"/etc/l.png\", duplicate, status"_s);
     good(
         "stored logo", "model = zj-5870; logo = stored:7;",
         u"zj-5870: 32 columns, 1252=16 852=18 866=17 850=2 437=0, cut none, feed 4, pin 2, 50/500 ms, logo stored 7"_s);
+    good("not asked", "model = zj-5870; status = false;", zj5870);
     good("no duplicates", "model = zj-5870; duplicate = false;", zj5870);
     good("the bounds",
          "model = zj-5870; columns = 255; codePages = 437=255; feed = 255; drawerPulse = \"2,510\"; logo = "
@@ -121,6 +122,7 @@ void PrinterSettingsTest::settings_data()
     bad("logo: stored number beyond a byte", "logo", "stored:256",
         "a PNG file, or stored: with a number from 1 to 255");
     bad("duplicate: neither on nor off", "duplicate", "yes", "true or false");
+    bad("status: neither on nor off", "status", "1", "true or false");
 
     const QString plain = u"plain-text: 34 columns, , cut none, feed 4, pin 2, 50/500 ms, logo \"\""_s;
     QTest::newRow("unknown model")
@@ -151,7 +153,7 @@ void PrinterSettingsTest::everySettingIsTold()
 {
     const Configuration configuration(
         "till : { model = x; output = \",\"; columns = x; codePages = x; cut = x; feed = x; drawerPin = x;"
-        "drawerPulse = x; logo = stored:x; duplicate = x; };");
+        "drawerPulse = x; logo = stored:x; duplicate = x; status = x; };");
     const QByteArray messages =
         capturedOutput([&] { printerOfName(configuration.configuration, u"till"_s); });
     const QList<QByteArray> lines = messages.split('\n');

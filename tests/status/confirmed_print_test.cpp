@@ -223,6 +223,38 @@ private Q_SLOTS:
         QCOMPARE(printer.log().paper, paper);
     }
 
+    // A printer that takes no more of a job can be given up.
+    void stalls()
+    {
+        int ends[2] = {};
+        QCOMPARE(socketpair(AF_UNIX, SOCK_STREAM, 0, ends), 0);
+        const Descriptor connection(ends[0]);
+        PortLimits limits = shortLimits;
+        limits.answer = 5ms;
+        limits.stall = 20ms;
+        PrinterPort port(connection, -1, limits);
+        int told = 0;
+        PrintEvents events;
+        events.stalled = [&told] { ++told; };
+        QCOMPARE(printConfirmed(port, std::string(4'000'000, 'x'), AnswersStatus::Never, events),
+                 Outcome::Uncertain);
+        QVERIFY(told >= 1);
+        QCOMPARE(port.fault(), "the printer takes nothing");
+        close(ends[1]);
+    }
+
+    // The dots of a picture look like any command.
+    void pictureWithQueries()
+    {
+        const SimulatedPrinter printer;
+        const Descriptor connection(connectionTo(printer));
+        PrinterPort port(connection, -1, patientLimits);
+        const std::string dots = "\x10\x04\x01\x1D\x72\x01\x1D\x76"; // 2 bytes across, 4 rows
+        const std::string picture = std::string("\x1D\x76\x30\0\2\0\4\0", 8) + dots + job;
+        QCOMPARE(printConfirmed(port, picture, AnswersStatus::Known), Outcome::Printed);
+        QCOMPARE(printer.log().jobs, QList<QByteArray>{QByteArray::fromStdString(picture)});
+    }
+
     // Answers once, then no more: the cable is pulled while it waits for paper, or holds the job.
     void fallsSilent_data()
     {

@@ -1,5 +1,6 @@
 #include "simulated_printer.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdlib>
@@ -16,8 +17,22 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto realTimeQuery = "\x10\x04"_L1;
-constexpr auto inSequenceQuery = "\x1D\x72\x01"_L1;
+constexpr QByteArrayView realTimeQuery = "\x10\x04";
+constexpr QByteArrayView inSequenceQuery = "\x1D\x72\x01";
+
+/* The commands that it tells from what is to be printed. */
+struct Command
+{
+    QByteArrayView beginning;
+    qsizetype size; // in bytes; more follow a picture's
+};
+
+constexpr Command commands[] = {{realTimeQuery, 3}, {inSequenceQuery, 3}, {"\x1D\x76\x30", 8}};
+
+int number(const QByteArray &twoBytes)
+{
+    return static_cast<unsigned char>(twoBytes[0]) + 256 * static_cast<unsigned char>(twoBytes[1]);
+}
 
 void require(bool done, const char *what)
 {
@@ -181,6 +196,7 @@ void SimulatedPrinter::endConnection(bool reset)
     close(m_line);
     m_line = -1;
     m_arrived.clear();
+    m_dotsToCome = 0;
 }
 
 void SimulatedPrinter::readConnection()
@@ -199,33 +215,61 @@ void SimulatedPrinter::readConnection()
 void SimulatedPrinter::takeBytes()
 {
     while (!m_arrived.isEmpty()) {
-        if (m_arrived.startsWith('\x10') && m_arrived.size() < 3)
-            return; // the rest of a query may follow
-        if (m_arrived.startsWith(realTimeQuery.data())) {
-            const Condition &is = m_condition;
-            int answered = 0x12;
-            switch (m_arrived[2]) {
-            case 1:
-                answered |= is.paper && !is.coverOpen && !is.cutterError ? 0 : 0x08;
-                break;
-            case 2:
-                answered |= (is.coverOpen ? 0x04 : 0) | (is.paper ? 0 : 0x20) | (is.cutterError ? 0x40 : 0);
-                break;
-            case 3:
-                answered |= is.cutterError ? 0x08 : 0;
-                break;
-            default:
-                answered |= (is.paperNearEnd ? 0x0C : 0) | (is.paper ? 0 : 0x60);
-            }
-            m_arrived.remove(0, 3);
-            if (is.answersStatus) {
-                answer(static_cast<char>(answered));
-                ++m_log.statusQueries;
-            }
+        if (m_dotsToCome > 0) {
+            const qsizetype dots = std::min(m_dotsToCome, m_arrived.size());
+            m_dotsToCome -= dots;
+            take(dots);
             continue;
         }
-        m_buffer += m_arrived[0];
-        m_arrived.remove(0, 1);
+        const auto command = std::ranges::find_if(commands, [this](const Command &known) {
+            return std::ranges::equal(known.beginning,
+                                      m_arrived.first(std::min(m_arrived.size(), known.beginning.size())));
+        });
+        if (command == std::end(commands))
+            take(1);
+        else if (m_arrived.size() < command->size)
+            return; // the rest may follow
+        else if (command->beginning == realTimeQuery) {
+            answerInRealTime(m_arrived[2]);
+            m_arrived.remove(0, command->size);
+        } else if (command->beginning == inSequenceQuery) {
+            m_buffer.append(queryInSequence);
+            m_arrived.remove(0, command->size);
+        } else {
+            m_dotsToCome = number(m_arrived.sliced(4, 2)) * number(m_arrived.sliced(6, 2));
+            take(command->size);
+        }
+    }
+}
+
+/* Puts the next bytes into the buffer. */
+void SimulatedPrinter::take(qsizetype count)
+{
+    for (const char byte : std::as_const(m_arrived).first(count))
+        m_buffer.append(static_cast<unsigned char>(byte));
+    m_arrived.remove(0, count);
+}
+
+void SimulatedPrinter::answerInRealTime(char query)
+{
+    const Condition &is = m_condition;
+    int answered = 0x12;
+    switch (query) {
+    case 1:
+        answered |= is.paper && !is.coverOpen && !is.cutterError ? 0 : 0x08;
+        break;
+    case 2:
+        answered |= (is.coverOpen ? 0x04 : 0) | (is.paper ? 0 : 0x20) | (is.cutterError ? 0x40 : 0);
+        break;
+    case 3:
+        answered |= is.cutterError ? 0x08 : 0;
+        break;
+    default:
+        answered |= (is.paperNearEnd ? 0x0C : 0) | (is.paper ? 0 : 0x60);
+    }
+    if (is.answersStatus) {
+        answer(static_cast<char>(answered));
+        ++m_log.statusQueries;
     }
 }
 
@@ -235,20 +279,16 @@ void SimulatedPrinter::printBuffer()
     Condition &is = m_condition;
     qsizetype at = 0;
     while (at < m_buffer.size() && is.paper && !is.coverOpen && !is.cutterError && !is.busy) {
-        const QByteArrayView rest = QByteArrayView(m_buffer).sliced(at);
-        if (inSequenceQuery.size() > rest.size() && QByteArrayView(inSequenceQuery.data()).startsWith(rest))
-            break; // the rest of the query may follow
-        if (rest.startsWith(inSequenceQuery.data())) {
-            at += inSequenceQuery.size();
+        const int next = m_buffer[at++];
+        if (next == queryInSequence) {
             if (is.answersStatus && is.confirms) {
                 m_log.jobs.append(std::exchange(m_job, {}));
                 answer(is.paperNearEnd ? 0x03 : 0x00);
             }
             continue;
         }
-        m_job += m_buffer[at];
-        m_log.paper += m_buffer[at];
-        ++at;
+        m_job += static_cast<char>(next);
+        m_log.paper += static_cast<char>(next);
         if (is.paperLeft > 0 && --is.paperLeft == 0)
             is.paper = false;
         if (is.resetAt >= 0 && m_log.paper.size() == is.resetAt) {

@@ -23,7 +23,7 @@ struct PrinterLog
  * A receipt printer on a port of the loopback interface or on a pseudo terminal, run by a thread of its own.
  * It answers status queries (`10 04 n`) at once and those in sequence (`1D 72 01`) when all before them is
  * printed, which goes on only while there is paper and the cover is closed. It serves one connection at a
- * time. What a job holds must not look like a query.
+ * time. The dots of a picture (`1D 76 30`) are no queries, whatever they look like.
  */
 class SimulatedPrinter
 {
@@ -55,6 +55,9 @@ public:
     /* The address of a queue that prints on it. */
     QString uri() const;
 
+    /* Its device, when it has one. */
+    const QString &devicePath() const { return m_devicePath; }
+
     /* Changes the condition; in force when it returns. */
     void set(const std::function<void(Condition &)> &change);
 
@@ -71,6 +74,8 @@ private:
     void endConnection(bool reset);
     void readConnection();
     void takeBytes();
+    void take(qsizetype count);
+    void answerInRealTime(char query);
     void printBuffer();
     void answer(char byte);
 
@@ -89,8 +94,10 @@ private:
     bool m_changeTaken = true;
     PrinterLog m_log;
     QByteArray m_job; // printed and not yet confirmed
-    QByteArray m_arrived; // not yet searched for queries in real time
-    QByteArray m_buffer; // to be printed
+    QByteArray m_arrived; // not yet told apart
+    qsizetype m_dotsToCome = 0; // bytes of a picture that has begun to arrive
+    static constexpr int queryInSequence = -1;
+    QList<int> m_buffer; // to be printed: bytes, and queries in sequence
     bool m_ending = false;
 
     std::thread m_thread;

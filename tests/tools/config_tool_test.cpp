@@ -52,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(result.standardError, "");
         for (const char *text :
              {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "check-document DOC", "init",
-              "models", "test-page [OUT]", "edit", "--file <FILE>", "--type <cfg|xml>",
+              "models", "status [DEVICE]", "test-page [OUT]", "edit", "--file <FILE>", "--type <cfg|xml>",
               "--columns <32|40|42|48>", "--printer <MODEL|NAME>", "--output <FILE>", "--force", "--quiet",
               "--help", "--version"})
             QVERIFY2(result.standardOutput.contains(text), text);
@@ -106,8 +106,9 @@ private Q_SLOTS:
                                              << QByteArray("\"41\" columns are none of 32|40|42|48");
         QTest::newRow("columns that are no number") << QStringList{u"init"_s, u"--columns"_s, u"wide"_s}
                                                     << QByteArray("\"wide\" columns are none of 32|40|42|48");
-        QTest::newRow("printer where it means nothing") << QStringList{u"check"_s, u"--printer"_s, u"till"_s}
-                                                        << QByteArray("--printer is for init and test-page");
+        QTest::newRow("printer where it means nothing")
+            << QStringList{u"check"_s, u"--printer"_s, u"till"_s}
+            << QByteArray("--printer is for init, status and test-page");
         QTest::newRow("output where it means nothing")
             << QStringList{u"test-page"_s, u"--printer"_s, u"till"_s, u"--output"_s, u"x"_s}
             << QByteArray("--output is for init");

@@ -261,7 +261,7 @@ private Q_SLOTS:
             "printers : {\n"
             "till : { output = \"/dev/usb/lp0, /dev/till*\"; model = epson-tm-t20iii; columns = 42;"
             "codePages = \"858=19, 1252=16\"; cut = partial; feed = 2; drawerPin = 5; drawerPulse = "
-            "\"100, 200\"; duplicate = true; logo = \""
+            "\"100, 200\"; duplicate = true; status = true; logo = \""
             + logos
             + "black-and-white.png\"; };\n"
               "kitchen : { output = /dev/usb/lp1; model = generic-58; logo = stored:1; };\n"
@@ -316,7 +316,7 @@ private Q_SLOTS:
             << QByteArray("printers : { till : { output = x; model = generic-80;\ncolumns = wide;\ncodePages "
                           "= 858;\ncut "
                           "= yes;\nfeed = -1;\ndrawerPin = 3;\ndrawerPulse = 50;\nlogo = "
-                          "stored:0;\nduplicate = 1; }; };")
+                          "stored:0;\nduplicate = 1;\nstatus = yes; }; };")
             << QStringList{
                    u"3: \"columns\" is \"wide\", not a number from 1 to 255"_s,
                    u"4: \"codePages\" is \"858\", not a list of code pages with their numbers"_s,
@@ -325,7 +325,8 @@ private Q_SLOTS:
                    u"7: \"drawerPin\" is \"3\", not 2 or 5"_s,
                    u"8: \"drawerPulse\" is \"50\", not two times from 2 to 510 ms"_s,
                    u"9: \"logo\" is \"stored:0\", not a PNG file, or stored: with a number from 1 to 255"_s,
-                   u"10: \"duplicate\" is \"1\", not true or false"_s};
+                   u"10: \"duplicate\" is \"1\", not true or false"_s,
+                   u"11: \"status\" is \"yes\", not true or false"_s};
         QTest::newRow("no model")
             << QByteArray("printers : {\ntill : { output = x; }; };")
             << QStringList{u"3: \"tavolux.printers.till\" names no model, so it prints plain text"_s};

@@ -148,7 +148,7 @@ BackendStatus Run::print()
         return BackendStatus::Ok;
 
     for (;;) {
-        const Device device(m_uri, m_cancellation);
+        const Device device(m_uri, m_cancellation.descriptor());
         if (device.isOpen()) {
             const BackendStatus status = printOn(device);
             if (status != BackendStatus::Failed)

@@ -27,13 +27,3 @@ public:
 private:
     int m_descriptor;
 };
-
-/* As long as it lives the signal ends the program at once: for what cannot wait for a descriptor. */
-class EndAtOnce
-{
-public:
-    EndAtOnce();
-    ~EndAtOnce();
-    EndAtOnce(const EndAtOnce &) = delete;
-    EndAtOnce &operator=(const EndAtOnce &) = delete;
-};

@@ -1,5 +1,6 @@
 #include "config_tool.h"
 
+#include "ask_printer.h"
 #include "configuration_check.h"
 #include "configuration_scan.h"
 #include "document_check.h"
@@ -313,6 +314,16 @@ QString onlyFile(const PrinterSettings &printer)
     return file == printer.outputs.end() ? QString() : fileNameFromBytes(file->toLatin1());
 }
 
+/* Says so when the configuration has no printer of the name. */
+bool hasPrinter(const Task &task, const TXConfiguration &configuration)
+{
+    const QStringList names = printerNames(configuration);
+    if (names.contains(*task.printer))
+        return true;
+    complain(u"%1 has no printer \"%2\""_s.arg(task.file, *task.printer) + suggestion(*task.printer, names));
+    return false;
+}
+
 ExitStatus testPage(const Task &task)
 {
     if (!task.printer)
@@ -320,12 +331,8 @@ ExitStatus testPage(const Task &task)
     if (!readSource(task))
         return exitTrouble;
     const TXConfiguration configuration(task.file, task.kind);
-    const QStringList names = printerNames(configuration);
-    if (!names.contains(*task.printer)) {
-        complain(u"%1 has no printer \"%2\""_s.arg(task.file, *task.printer)
-                 + suggestion(*task.printer, names));
+    if (!hasPrinter(task, configuration))
         return exitTrouble;
-    }
     const PrinterSettings printer = printerOfName(
         configuration, *task.printer,
         [](const QString &key, const PrinterSetting &setting, const QString &value) {
@@ -346,6 +353,75 @@ ExitStatus testPage(const Task &task)
     printTestPage(printer, *output);
     output->close();
     return output->failed() ? exitNegative : exitSuccess;
+}
+
+/* A printer that can be asked, by the name under which it is shown. */
+struct AskedPrinter
+{
+    QString name;
+    DeviceUri uri;
+};
+
+/* A device, the address of a queue, or a host. */
+std::optional<DeviceUri> addressOf(const QString &text)
+{
+    const std::string bytes = fileNameBytes(text).toStdString();
+    if (text.startsWith("tavolux:"_L1))
+        return DeviceUri::parse(bytes);
+    return text.contains(u'/') ? DeviceUri::ofDevice(bytes) : DeviceUri::parse("tavolux://" + bytes);
+}
+
+/* The outputs of printers that could be devices: no patterns and, unless the printer is asked for by its
+ * name, no files that are something else. */
+std::vector<AskedPrinter> configuredPrinters(const Task &task, const TXConfiguration &configuration)
+{
+    std::vector<AskedPrinter> asked;
+    const auto tellNobody = [](const QString &, const PrinterSetting &, const QString &) {};
+    for (const QString &name : task.printer ? QStringList(*task.printer) : printerNames(configuration))
+        for (const QString &output : printerOfName(configuration, name, tellNobody).outputs) {
+            const std::string path = output.toLatin1().toStdString();
+            std::error_code error;
+            const std::filesystem::file_type type = std::filesystem::status(path, error).type();
+            const bool couldBeDevice = type == std::filesystem::file_type::character
+                || type == std::filesystem::file_type::not_found || task.printer;
+            if (!isOutputPattern(output) && couldBeDevice)
+                asked.push_back({u"%1 (%2)"_s.arg(name, fileNameFromBytes(output.toLatin1())),
+                                 DeviceUri::ofDevice(path)});
+        }
+    return asked;
+}
+
+ExitStatus printStatus(const Task &task)
+{
+    std::vector<AskedPrinter> asked;
+    if (!task.argument.isEmpty()) {
+        if (task.printer)
+            return refuse(u"status takes --printer or a device, not both"_s);
+        const std::optional<DeviceUri> uri = addressOf(task.argument);
+        if (!uri)
+            return refuse(u"\"%1\" is no device and no address of a printer"_s.arg(task.argument));
+        asked = {{fileNameFromBytes(QByteArray::fromStdString(uri->name())), *uri}};
+    } else {
+        if (!readSource(task))
+            return exitTrouble;
+        const TXConfiguration configuration(task.file, task.kind);
+        if (task.printer && !hasPrinter(task, configuration))
+            return exitTrouble;
+        asked = configuredPrinters(task, configuration);
+        if (asked.empty()) {
+            complain(u"%1 names no device to ask; name one as DEVICE"_s.arg(
+                task.printer ? u"the printer \"%1\""_s.arg(*task.printer) : task.file));
+            return exitTrouble;
+        }
+    }
+    bool allReady = true;
+    for (const auto &[name, uri] : asked) {
+        const PrinterAnswer answer = askPrinter(uri);
+        print(shownFileName(name + ": "_L1 + answer.text));
+        std::cout.flush(); // the next may take its time
+        allReady = allReady && answer.ready;
+    }
+    return allReady ? exitSuccess : exitNegative;
 }
 
 ExitStatus edit(const Task &task)
@@ -394,6 +470,7 @@ constexpr Command commands[] = {
     {"models"_L1, ""_L1, "list the models of receipt printers"_L1, printModels},
     {"test-page"_L1, "[OUT]"_L1,
      "print what shows whether a printer's settings fit, to OUT or the printer"_L1, testPage},
+    {"status"_L1, "[DEVICE]"_L1, "ask a printer, or all, whether it is ready"_L1, printStatus},
     {"edit"_L1, ""_L1, "edit the configuration in a window"_L1, edit},
 };
 
@@ -405,11 +482,13 @@ QString commandHelp()
         help += u"  %1  %2\n"_s.arg(QString(command.name + u' ' + command.argument).leftJustified(18),
                                     command.help);
     return help
-        + "\nThe exit status is 0 when all is well, 1 when a value is empty, a check found something, OUT "
-          "is not\n"
-          "written whole or the file to begin exists, and 2 after wrong usage, when FILE or DOC cannot be "
-          "read\n"
-          "or FILE cannot be begun, has no such printer, or when there is no editor or no display for it."_L1;
+        + "\nThe exit status is 0 when all is well, 1 when a value is empty, a check found something, OUT is "
+          "not\n"
+          "written whole, a printer is not ready or the file to begin exists, and 2 after wrong usage, when "
+          "FILE\n"
+          "or DOC cannot be read, FILE cannot be begun or has no such printer, or when there is no editor or "
+          "no\n"
+          "display for it."_L1;
 }
 
 const Command *findCommand(const QString &name)
@@ -439,7 +518,7 @@ ExitStatus runCommand(const QStringList &arguments)
         widthsText());
     const QCommandLineOption printerOption(
         u"printer"_s,
-        u"For init: the model of a receipt printer, one of those that models lists. For test-page: the name of the printer, a section of tavolux.printers."_s,
+        u"For init: the model of a receipt printer, one of those that models lists. For status and test-page: the name of the printer, a section of tavolux.printers."_s,
         u"MODEL|NAME"_s);
     const QCommandLineOption outputOption(
         u"output"_s, u"For init: the file or device that the printer prints."_s, u"FILE"_s);
@@ -454,7 +533,8 @@ ExitStatus runCommand(const QStringList &arguments)
     parser.setApplicationDescription(commandHelp());
     parser.addOptions({fileOption, kindOption, columnsOption, printerOption, outputOption, forceOption,
                        quietOption, helpOption, versionOption});
-    parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s, u"COMMAND [KEY|OUT|DOC]"_s);
+    parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s,
+                                 u"COMMAND [KEY|OUT|DEVICE|DOC]"_s);
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     if (parser.isSet(helpOption)) {
@@ -495,8 +575,8 @@ ExitStatus runCommand(const QStringList &arguments)
         return refuse(u"--columns is for init"_s);
     if (task.output && command->run != init)
         return refuse(u"--output is for init"_s);
-    if (task.printer && command->run != init && command->run != testPage)
-        return refuse(u"--printer is for init and test-page"_s);
+    if (task.printer && command->run != init && command->run != testPage && command->run != printStatus)
+        return refuse(u"--printer is for init, status and test-page"_s);
     if (task.force && command->run != writeCfg && command->run != writeXml)
         return refuse(u"--force is for write and write-xml"_s);
     if (task.quiet && command->run != check && command->run != checkDocumentFile)

@@ -1,9 +1,8 @@
 #include "device.h"
 
-#include "cancellation.h"
-
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <memory>
 #include <system_error>
 
@@ -14,7 +13,6 @@
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
-#include <termios.h>
 #include <unistd.h>
 
 namespace {
@@ -27,13 +25,13 @@ std::string message(int error)
 }
 
 /* The error that connecting ended with, 0 for none. */
-int connectWithin(int descriptor, const addrinfo &address, const Cancellation &cancellation)
+int connectWithin(int descriptor, const addrinfo &address, int cancellation)
 {
     if (connect(descriptor, address.ai_addr, address.ai_addrlen) == 0)
         return 0;
     if (errno != EINPROGRESS)
         return errno;
-    std::array<pollfd, 2> polled = {{{descriptor, POLLOUT, 0}, {cancellation.descriptor(), POLLIN, 0}}};
+    std::array<pollfd, 2> polled = {{{descriptor, POLLOUT, 0}, {cancellation, POLLIN, 0}}};
     if (poll(polled.data(), polled.size(), connectMilliseconds) <= 0)
         return ETIMEDOUT;
     if (polled[0].revents == 0)
@@ -44,9 +42,28 @@ int connectWithin(int descriptor, const addrinfo &address, const Cancellation &c
     return error;
 }
 
+/* As long as it lives SIGTERM ends the program at once: for what cannot wait for a descriptor. */
+class EndAtOnce
+{
+public:
+    EndAtOnce()
+    {
+        sigset_t signals;
+        sigemptyset(&signals);
+        sigaddset(&signals, SIGTERM);
+        sigprocmask(SIG_UNBLOCK, &signals, &m_before);
+    }
+    ~EndAtOnce() { sigprocmask(SIG_SETMASK, &m_before, nullptr); }
+    EndAtOnce(const EndAtOnce &) = delete;
+    EndAtOnce &operator=(const EndAtOnce &) = delete;
+
+private:
+    sigset_t m_before = {};
+};
+
 } // namespace
 
-Device::Device(const DeviceUri &uri, const Cancellation &cancellation)
+Device::Device(const DeviceUri &uri, int cancellation)
 {
     if (uri.host.empty())
         openPath(uri.path);
@@ -56,6 +73,8 @@ Device::Device(const DeviceUri &uri, const Cancellation &cancellation)
 
 Device::~Device()
 {
+    if (m_ownLine)
+        tcsetattr(m_descriptor, TCSANOW, &*m_ownLine);
     shut();
 }
 
@@ -74,14 +93,24 @@ void Device::openPath(const std::string &path)
         shut();
         return;
     }
-    // A serial line passes every byte as it is, at the speed that it has been set to.
-    if (termios line = {}; tcgetattr(m_descriptor, &line) == 0) {
-        cfmakeraw(&line);
-        tcsetattr(m_descriptor, TCSANOW, &line);
-    }
+    setLine();
 }
 
-void Device::connectTo(const DeviceUri &uri, const Cancellation &cancellation)
+/* Without an echo, which would print the printer's answers, and without any change of the bytes in either
+ * direction. */
+void Device::setLine()
+{
+    termios line = {};
+    if (tcgetattr(m_descriptor, &line) != 0)
+        return;
+    m_ownLine = line;
+    cfmakeraw(&line);
+    line.c_cflag = m_ownLine->c_cflag;
+    line.c_iflag |= m_ownLine->c_iflag & IXON; // by which a printer says that it is full
+    tcsetattr(m_descriptor, TCSANOW, &line);
+}
+
+void Device::connectTo(const DeviceUri &uri, int cancellation)
 {
     addrinfo hints = {};
     hints.ai_socktype = SOCK_STREAM;

@@ -16,6 +16,9 @@ struct DeviceUri
     /* Nothing when the text is not of this form. */
     static std::optional<DeviceUri> parse(std::string_view text);
 
+    /* That of a device, wherever it is. */
+    static DeviceUri ofDevice(std::string path);
+
     /* For messages: the path, or host and port. */
     std::string name() const;
 };

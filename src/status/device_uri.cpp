@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 using namespace std::string_view_literals;
 
@@ -76,6 +77,13 @@ std::optional<DeviceUri> DeviceUri::parse(std::string_view text)
     if (removePrefix(text, "?status=no"))
         uri.asksStatus = false;
     return text.empty() ? std::optional(uri) : std::nullopt;
+}
+
+DeviceUri DeviceUri::ofDevice(std::string path)
+{
+    DeviceUri uri;
+    uri.path = std::move(path);
+    return uri;
 }
 
 std::string DeviceUri::name() const
