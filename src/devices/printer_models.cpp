@@ -136,3 +136,11 @@ std::optional<Cutter> cutterOfName(QStringView name)
             return cutter;
     return {};
 }
+
+QString codePagesText(std::span<const NumberedPage> pages)
+{
+    QStringList texts;
+    for (const auto &[page, number] : pages)
+        texts.append(codePageName(page) + u'=' + QString::number(number));
+    return texts.join(", "_L1);
+}

@@ -24,6 +24,9 @@ struct NumberedPage
     bool operator==(const NumberedPage &) const = default;
 };
 
+/* Pages as the configuration has them: "858=19, 1252=16". */
+QString codePagesText(std::span<const NumberedPage> pages);
+
 /* A printer as it leaves the factory. The configuration can override all of it. */
 struct PrinterModel
 {

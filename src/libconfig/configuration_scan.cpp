@@ -269,6 +269,17 @@ Scan scanXml(const QByteArray &text)
     return scan;
 }
 
+QString recognizedKind(QByteArrayView text)
+{
+    for (const QByteArrayView mark :
+         {QByteArrayView("\xEF\xBB\xBF"), QByteArrayView("\xFF\xFE"), QByteArrayView("\xFE\xFF")})
+        if (text.startsWith(mark))
+            text = text.sliced(mark.size());
+    const auto *const first =
+        std::ranges::find_if_not(text, [](char c) { return QByteArrayView(" \t\r\n\0", 5).contains(c); });
+    return first != text.end() && *first == '<' ? u"xml"_s : u"cfg"_s;
+}
+
 Scan scanConfiguration(const QByteArray &text, const QString &kind)
 {
     return kind == "xml"_L1 ? scanXml(text) : scanCfg(text);

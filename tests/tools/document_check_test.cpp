@@ -23,7 +23,7 @@ const QString sourceFolder = QStringLiteral(TAVOLUX_SOURCE_DIR);
 QStringList lines(const std::vector<Finding> &findings)
 {
     QStringList texts;
-    for (const auto &[line, text] : findings)
+    for (const auto &[line, text, key] : findings)
         texts.append(QString::number(line) + ": "_L1 + text);
     return texts;
 }

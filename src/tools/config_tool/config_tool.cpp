@@ -1,17 +1,15 @@
 #include "config_tool.h"
 
-#include "ask_printer.h"
 #include "configuration_check.h"
 #include "configuration_scan.h"
 #include "document_check.h"
 #include "file_name.h"
 #include "losses.h"
-#include "nearest_name.h"
-#include "print_output.h"
-#include "printer_settings.h"
+#include "printer_commands.h"
+#include "printer_models.h"
 #include "read_file.h"
+#include "setting_commands.h"
 #include "starter_configuration.h"
-#include "test_page.h"
 #include "tx_configuration.h"
 #include "write_file.h"
 
@@ -35,44 +33,7 @@ using libconfig::saysMore;
 
 namespace {
 
-constexpr QLatin1StringView programName = "tavolux-config"_L1;
 constexpr QLatin1StringView editorName = "tavolux-config-editor"_L1;
-
-void print(QByteArrayView line)
-{
-    std::cout.write(line.data(), line.size()) << '\n';
-}
-
-void complain(const QString &message)
-{
-    std::cerr << shownFileName(programName + ": "_L1 + message).constData() << '\n';
-}
-
-ExitStatus refuse(const QString &message)
-{
-    complain(message);
-    std::cerr << "Try \"tavolux-config --help\".\n";
-    return exitTrouble;
-}
-
-/* The configuration that is worked on, and what the command was given. */
-struct Task
-{
-    QString file;
-    QString kind;
-    QString argument; // the command's own, if it takes one
-    std::optional<int> columns = {};
-    std::optional<QString> printer = {};
-    std::optional<QString> output = {};
-    bool force = false;
-    bool quiet = false;
-};
-
-QString suggestion(const QString &name, const QStringList &known)
-{
-    const QString nearest = nearestName(name, known);
-    return nearest.isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(nearest);
-}
 
 QString widthsText()
 {
@@ -80,45 +41,6 @@ QString widthsText()
     for (const int width : starterPaperWidths())
         widths.append(QString::number(width));
     return widths.join(u'|');
-}
-
-std::optional<QByteArray> textOf(const QString &name)
-{
-    FileContent content = readRegularFile(name);
-    if (content.fault.isEmpty())
-        return std::move(content.bytes);
-    complain(u"cannot read %1: %2"_s.arg(name, content.fault));
-    if (content.isMissing)
-        complain(u"\"tavolux-config init\" writes a configuration to start from"_s);
-    return {};
-}
-
-/* A file that the store can read; it would not say why it cannot. */
-struct Source
-{
-    QByteArray text;
-    bool beginsWithRoot;
-};
-
-std::optional<Source> readSource(const Task &task)
-{
-    const std::optional<QByteArray> text = textOf(task.file);
-    if (!text)
-        return {};
-    const Scan scan = scanConfiguration(*text, task.kind);
-    if (scan.fault.isEmpty())
-        return Source{*text, scan.beginsWithRoot};
-    complain(u"cannot read %1, line %2: %3"_s.arg(task.file, QString::number(scan.faultLine), scan.fault));
-    return {};
-}
-
-ExitStatus printValue(const Task &task)
-{
-    if (!readSource(task))
-        return exitTrouble;
-    const QString value = TXConfiguration(task.file, task.kind).getStrValue(task.argument);
-    print(fileNameBytes(value));
-    return value.isEmpty() ? exitNegative : exitSuccess;
 }
 
 ExitStatus printTree(const Task &task)
@@ -172,9 +94,10 @@ ExitStatus writeXml(const Task &task)
 
 void printFindings(const QString &file, const std::vector<Finding> &findings)
 {
-    for (const auto &[line, finding] : findings)
-        print(shownFileName(line == 0 ? u"%1: %2"_s.arg(file, finding)
-                                      : u"%1:%2: %3"_s.arg(file, QString::number(line), finding)));
+    for (const Finding &finding : findings)
+        print(shownFileName(finding.line == 0
+                                ? u"%1: %2"_s.arg(file, finding.text)
+                                : u"%1:%2: %3"_s.arg(file, QString::number(finding.line), finding.text)));
 }
 
 ExitStatus check(const Task &task)
@@ -182,7 +105,9 @@ ExitStatus check(const Task &task)
     const std::optional<QByteArray> text = textOf(task.file);
     if (!text)
         return exitTrouble;
-    const std::vector<Finding> findings = checkConfiguration(*text, task.kind);
+    std::vector<Finding> findings = checkConfiguration(*text, task.kind);
+    if (!task.kindIsGiven && task.kind == "xml"_L1)
+        findings.insert(findings.begin(), {0, u"this is XML; the printing program reads cfg alone"_s});
     if (!task.quiet)
         printFindings(task.file, findings);
     return findings.empty() ? exitSuccess : exitNegative;
@@ -255,7 +180,7 @@ std::optional<Start> startFor(const Task &task)
 
 ExitStatus init(const Task &task)
 {
-    if (task.kind != "cfg"_L1)
+    if (task.kindIsGiven && task.kind != "cfg"_L1)
         return refuse(u"a starter configuration is of the kind cfg"_s);
     const std::optional<Start> start = startFor(task);
     if (!start)
@@ -281,147 +206,6 @@ ExitStatus init(const Task &task)
     }
     print(fileNameBytes(task.file));
     return exitSuccess;
-}
-
-QString codePagesText(const PrinterModel &model)
-{
-    QStringList pages;
-    for (const auto &[page, number] : model.codePages)
-        pages.append(codePageName(page) + u'=' + QString::number(number));
-    return pages.join(", "_L1);
-}
-
-ExitStatus printModels(const Task &)
-{
-    const auto printRow = [](const QString &name, const QString &columns, const QString &dots,
-                             const QString &cut, const QString &raster, const QString &codePages) {
-        const QString row = name.leftJustified(20) + columns.rightJustified(7) + dots.rightJustified(6)
-            + "  "_L1 + cut.leftJustified(9) + raster.leftJustified(10) + codePages;
-        print(row.trimmed().toUtf8());
-    };
-    printRow(u"MODEL"_s, u"COLUMNS"_s, u"DOTS"_s, u"CUT"_s, u"PICTURES"_s, u"CODE PAGES"_s);
-    for (const PrinterModel &model : printerModels)
-        printRow(model.name, QString::number(model.columns),
-                 model.dots > 0 ? QString::number(model.dots) : u"-"_s, cutterName(model.cutter),
-                 model.raster ? u"yes"_s : u"no"_s, model.isPlainText() ? u"-"_s : codePagesText(model));
-    return exitSuccess;
-}
-
-/* The file that a test page of the printer goes to; empty when its settings name none, but only patterns. */
-QString onlyFile(const PrinterSettings &printer)
-{
-    const auto file = std::ranges::find_if_not(printer.outputs, isOutputPattern);
-    return file == printer.outputs.end() ? QString() : fileNameFromBytes(file->toLatin1());
-}
-
-/* Says so when the configuration has no printer of the name. */
-bool hasPrinter(const Task &task, const TXConfiguration &configuration)
-{
-    const QStringList names = printerNames(configuration);
-    if (names.contains(*task.printer))
-        return true;
-    complain(u"%1 has no printer \"%2\""_s.arg(task.file, *task.printer) + suggestion(*task.printer, names));
-    return false;
-}
-
-ExitStatus testPage(const Task &task)
-{
-    if (!task.printer)
-        return refuse(u"test-page needs --printer"_s);
-    if (!readSource(task))
-        return exitTrouble;
-    const TXConfiguration configuration(task.file, task.kind);
-    if (!hasPrinter(task, configuration))
-        return exitTrouble;
-    const PrinterSettings printer = printerOfName(
-        configuration, *task.printer,
-        [](const QString &key, const PrinterSetting &setting, const QString &value) {
-            complain(u"%1 is \"%2\", not %3"_s.arg(key, value, QString::fromLatin1(setting.expected)));
-        });
-    if (printer.model->isPlainText()) {
-        complain(
-            u"the printer \"%1\" prints plain text, for which there is no test page"_s.arg(printer.name));
-        return exitTrouble;
-    }
-    const QString file = task.argument.isEmpty() ? onlyFile(printer) : task.argument;
-    if (file.isEmpty()) {
-        complain(u"the printer \"%1\" names no output but patterns; name one as OUT"_s.arg(printer.name));
-        return exitTrouble;
-    }
-    const auto output = file == "-"_L1 ? std::make_unique<PrintOutput>(STDOUT_FILENO, u"standard output"_s)
-                                       : std::make_unique<PrintOutput>(file, PrintOutput::Opening::truncate);
-    printTestPage(printer, *output);
-    output->close();
-    return output->failed() ? exitNegative : exitSuccess;
-}
-
-/* A printer that can be asked, by the name under which it is shown. */
-struct AskedPrinter
-{
-    QString name;
-    DeviceUri uri;
-};
-
-/* A device, the address of a queue, or a host. */
-std::optional<DeviceUri> addressOf(const QString &text)
-{
-    const std::string bytes = fileNameBytes(text).toStdString();
-    if (text.startsWith("tavolux:"_L1))
-        return DeviceUri::parse(bytes);
-    return text.contains(u'/') ? DeviceUri::ofDevice(bytes) : DeviceUri::parse("tavolux://" + bytes);
-}
-
-/* The outputs of printers that could be devices: no patterns and, unless the printer is asked for by its
- * name, no files that are something else. */
-std::vector<AskedPrinter> configuredPrinters(const Task &task, const TXConfiguration &configuration)
-{
-    std::vector<AskedPrinter> asked;
-    const auto tellNobody = [](const QString &, const PrinterSetting &, const QString &) {};
-    for (const QString &name : task.printer ? QStringList(*task.printer) : printerNames(configuration))
-        for (const QString &output : printerOfName(configuration, name, tellNobody).outputs) {
-            const std::string path = output.toLatin1().toStdString();
-            std::error_code error;
-            const std::filesystem::file_type type = std::filesystem::status(path, error).type();
-            const bool couldBeDevice = type == std::filesystem::file_type::character
-                || type == std::filesystem::file_type::not_found || task.printer;
-            if (!isOutputPattern(output) && couldBeDevice)
-                asked.push_back({u"%1 (%2)"_s.arg(name, fileNameFromBytes(output.toLatin1())),
-                                 DeviceUri::ofDevice(path)});
-        }
-    return asked;
-}
-
-ExitStatus printStatus(const Task &task)
-{
-    std::vector<AskedPrinter> asked;
-    if (!task.argument.isEmpty()) {
-        if (task.printer)
-            return refuse(u"status takes --printer or a device, not both"_s);
-        const std::optional<DeviceUri> uri = addressOf(task.argument);
-        if (!uri)
-            return refuse(u"\"%1\" is no device and no address of a printer"_s.arg(task.argument));
-        asked = {{fileNameFromBytes(QByteArray::fromStdString(uri->name())), *uri}};
-    } else {
-        if (!readSource(task))
-            return exitTrouble;
-        const TXConfiguration configuration(task.file, task.kind);
-        if (task.printer && !hasPrinter(task, configuration))
-            return exitTrouble;
-        asked = configuredPrinters(task, configuration);
-        if (asked.empty()) {
-            complain(u"%1 names no device to ask; name one as DEVICE"_s.arg(
-                task.printer ? u"the printer \"%1\""_s.arg(*task.printer) : task.file));
-            return exitTrouble;
-        }
-    }
-    bool allReady = true;
-    for (const auto &[name, uri] : asked) {
-        const PrinterAnswer answer = askPrinter(uri);
-        print(shownFileName(name + ": "_L1 + answer.text));
-        std::cout.flush(); // the next may take its time
-        allReady = allReady && answer.ready;
-    }
-    return allReady ? exitSuccess : exitNegative;
 }
 
 ExitStatus edit(const Task &task)
@@ -450,28 +234,35 @@ ExitStatus edit(const Task &task)
 struct Command
 {
     QLatin1StringView name;
-    QLatin1StringView argument; // what it takes, as the help calls it; empty: nothing; "[OUT]": if wanted
+    QLatin1StringView arguments; // that it takes, as the help calls them; "[OUT]": if wanted; "...": as often
+    QLatin1StringView options; // that it takes besides those that all take
     QLatin1StringView help;
     ExitStatus (*run)(const Task &);
 
-    constexpr bool needsArgument() const { return !argument.isEmpty() && !argument.startsWith(u'['); }
+    QStringList argumentNames() const { return QString(arguments).split(u' ', Qt::SkipEmptyParts); }
+    bool takesOption(const QString &option) const { return QString(options).split(u' ').contains(option); }
 };
 
 constexpr Command commands[] = {
-    {"get"_L1, "KEY"_L1,
+    {"list"_L1, "[SECTION]"_L1, "json names"_L1,
+     "print all settings: their values, what holds without them, and what they do"_L1, listSettings},
+    {"get"_L1, "KEY"_L1, ""_L1,
      "print the value that the printing program sees, such as of tavolux.doc.paperWidth"_L1, printValue},
-    {"tree"_L1, ""_L1, "print all sections and settings"_L1, printTree},
-    {"write"_L1, "OUT"_L1, "write the configuration to OUT, of the kind cfg"_L1, writeCfg},
-    {"write-xml"_L1, "OUT"_L1, "write the configuration to OUT, of the kind xml"_L1, writeXml},
-    {"check"_L1, ""_L1, "name what the printing program passes over in silence"_L1, check},
-    {"check-document"_L1, "DOC"_L1, "name what printing the document DOC passes over in silence"_L1,
-     checkDocumentFile},
-    {"init"_L1, ""_L1, "write a complete configuration to start from"_L1, init},
-    {"models"_L1, ""_L1, "list the models of receipt printers"_L1, printModels},
-    {"test-page"_L1, "[OUT]"_L1,
+    {"set"_L1, "KEY VALUE..."_L1, "force"_L1, "give settings values, and leave all else as it is"_L1,
+     setValue},
+    {"unset"_L1, "KEY"_L1, ""_L1, "take a setting out, and leave all else as it is"_L1, unsetValue},
+    {"tree"_L1, ""_L1, ""_L1, "print all sections and settings as they are stored"_L1, printTree},
+    {"write"_L1, "OUT"_L1, "force"_L1, "write the configuration to OUT, of the kind cfg"_L1, writeCfg},
+    {"write-xml"_L1, "OUT"_L1, "force"_L1, "write the configuration to OUT, of the kind xml"_L1, writeXml},
+    {"check"_L1, ""_L1, "quiet"_L1, "name what the printing program passes over in silence"_L1, check},
+    {"check-document"_L1, "DOC"_L1, "quiet"_L1,
+     "name what printing the document DOC passes over in silence"_L1, checkDocumentFile},
+    {"init"_L1, ""_L1, "columns printer output"_L1, "write a complete configuration to start from"_L1, init},
+    {"models"_L1, ""_L1, ""_L1, "list the models of receipt printers"_L1, printModels},
+    {"test-page"_L1, "[OUT]"_L1, "printer"_L1,
      "print what shows whether a printer's settings fit, to OUT or the printer"_L1, testPage},
-    {"status"_L1, "[DEVICE]"_L1, "ask a printer, or all, whether it is ready"_L1, printStatus},
-    {"edit"_L1, ""_L1, "edit the configuration in a window"_L1, edit},
+    {"status"_L1, "[DEVICE]"_L1, "printer"_L1, "ask a printer, or all, whether it is ready"_L1, printStatus},
+    {"edit"_L1, ""_L1, ""_L1, "edit the configuration in a window"_L1, edit},
 };
 
 QString commandHelp()
@@ -479,22 +270,40 @@ QString commandHelp()
     QString help =
         u"Shows, checks, writes and edits a configuration of the document printer.\n\nCommands:\n"_s;
     for (const Command &command : commands)
-        help += u"  %1  %2\n"_s.arg(QString(command.name + u' ' + command.argument).leftJustified(18),
+        help += u"  %1  %2\n"_s.arg(QString(command.name + u' ' + command.arguments).leftJustified(18),
                                     command.help);
     return help
-        + "\nThe exit status is 0 when all is well, 1 when a value is empty, a check found something, OUT is "
-          "not\n"
-          "written whole, a printer is not ready or the file to begin exists, and 2 after wrong usage, when "
-          "FILE\n"
-          "or DOC cannot be read, FILE cannot be begun or has no such printer, or when there is no editor or "
-          "no\n"
-          "display for it."_L1;
+        + "\nThe exit status is 0 when all is well, 1 when a value is empty or refused, a check found "
+          "something,\n"
+          "a file is not written whole, a printer is not ready or the file to begin exists, and 2 after "
+          "wrong "
+          "usage,\n"
+          "when FILE or DOC cannot be read, FILE cannot be begun or has no such printer, or when there is no "
+          "editor\n"
+          "or no display for it."_L1;
 }
 
 const Command *findCommand(const QString &name)
 {
     const auto *command = std::ranges::find(commands, name, &Command::name);
     return command == std::end(commands) ? nullptr : command;
+}
+
+/* The commands that take an option, in the order of the alphabet; none for one that all take. */
+QStringList commandsWithOption(const QString &option)
+{
+    QStringList names;
+    for (const Command &command : commands)
+        if (command.takesOption(option))
+            names << command.name;
+    names.sort();
+    return names;
+}
+
+QString listed(QStringList names)
+{
+    const QString last = names.takeLast();
+    return names.isEmpty() ? last : names.join(", "_L1) + " and "_L1 + last;
 }
 
 ExitStatus refuseCommand(const QString &name)
@@ -510,8 +319,9 @@ ExitStatus runCommand(const QStringList &arguments)
     const QCommandLineOption fileOption(u"file"_s,
                                         u"The configuration, without this option the user's own."_s,
                                         u"FILE"_s, TXConfiguration::userFile());
-    const QCommandLineOption kindOption(u"type"_s, u"What kind of file it is: cfg (the default) or xml."_s,
-                                        u"cfg|xml"_s, u"cfg"_s);
+    const QCommandLineOption kindOption(
+        u"type"_s, u"What kind of file it is: cfg or xml, without this option what its content looks like."_s,
+        u"cfg|xml"_s);
     const QCommandLineOption columnsOption(
         u"columns"_s,
         u"For init: how many characters the paper is wide, without this option as many as the printer has room for, or 42."_s,
@@ -523,7 +333,10 @@ ExitStatus runCommand(const QStringList &arguments)
     const QCommandLineOption outputOption(
         u"output"_s, u"For init: the file or device that the printer prints."_s, u"FILE"_s);
     const QCommandLineOption forceOption(
-        u"force"_s, u"For write and write-xml: write OUT though settings or other text are lost."_s);
+        u"force"_s,
+        u"For write and write-xml: write OUT though settings or other text are lost. For set: set a value that check complains of."_s);
+    const QCommandLineOption jsonOption(u"json"_s, u"For list: print JSON, for other programs."_s);
+    const QCommandLineOption namesOption(u"names"_s, u"For list: print keys alone, one in a line."_s);
     const QCommandLineOption quietOption({u"q"_s, u"quiet"_s},
                                          u"For check and check-document: print no findings."_s);
     const QCommandLineOption helpOption({u"h"_s, u"help"_s}, u"Shows this help."_s);
@@ -532,9 +345,8 @@ ExitStatus runCommand(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(commandHelp());
     parser.addOptions({fileOption, kindOption, columnsOption, printerOption, outputOption, forceOption,
-                       quietOption, helpOption, versionOption});
-    parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s,
-                                 u"COMMAND [KEY|OUT|DEVICE|DOC]"_s);
+                       quietOption, jsonOption, namesOption, helpOption, versionOption});
+    parser.addPositionalArgument(u"COMMAND"_s, u"One of the commands above."_s, u"COMMAND [ARGUMENT]..."_s);
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     if (parser.isSet(helpOption)) {
@@ -552,35 +364,38 @@ ExitStatus runCommand(const QStringList &arguments)
     const Command *command = findCommand(words.first());
     if (!command)
         return refuseCommand(words.first());
-    const qsizetype expected = command->argument.isEmpty() ? 1 : 2;
-    if (words.size() < expected && command->needsArgument())
-        return refuse(u"%1 needs %2"_s.arg(command->name, command->argument));
-    if (words.size() > expected)
-        return refuse(u"%1 does not take \"%2\""_s.arg(command->name, words.at(expected)));
+    const QStringList expected = command->argumentNames();
+    const auto isNeeded = [](const QString &argument) { return !argument.startsWith(u'['); };
+    if (words.size() - 1 < std::ranges::count_if(expected, isNeeded))
+        return refuse(u"%1 needs %2"_s.arg(command->name, QString(command->arguments)));
+    if (words.size() - 1 > expected.size() && !command->arguments.endsWith("..."_L1))
+        return refuse(u"%1 does not take \"%2\""_s.arg(command->name, words.at(expected.size() + 1)));
+    for (const QString &option : parser.optionNames())
+        if (const QStringList takers = commandsWithOption(option);
+            !takers.isEmpty() && !takers.contains(command->name))
+            return refuse(u"--%1 is for %2"_s.arg(option, listed(takers)));
 
     if (parser.value(fileOption).isEmpty())
         return refuse(u"the name of the configuration is empty"_s);
-    Task task{.file = parser.value(fileOption), .kind = parser.value(kindOption), .argument = words.value(1)};
-    task.force = parser.isSet(forceOption);
-    task.quiet = parser.isSet(quietOption);
+    Task task{.file = parser.value(fileOption),
+              .kind = parser.value(kindOption),
+              .kindIsGiven = parser.isSet(kindOption),
+              .argument = words.value(1),
+              .arguments = words.sliced(1),
+              .force = parser.isSet(forceOption),
+              .quiet = parser.isSet(quietOption),
+              .json = parser.isSet(jsonOption),
+              .names = parser.isSet(namesOption)};
     if (parser.isSet(columnsOption))
         task.columns = parser.value(columnsOption).toInt();
     if (parser.isSet(printerOption))
         task.printer = parser.value(printerOption);
     if (parser.isSet(outputOption))
         task.output = parser.value(outputOption);
+    if (!task.kindIsGiven)
+        task.kind = recognizedKind(readRegularFile(task.file).bytes);
     if (task.kind != "cfg"_L1 && task.kind != "xml"_L1)
         return refuse(u"the type \"%1\" is neither cfg nor xml"_s.arg(task.kind));
-    if (task.columns && command->run != init)
-        return refuse(u"--columns is for init"_s);
-    if (task.output && command->run != init)
-        return refuse(u"--output is for init"_s);
-    if (task.printer && command->run != init && command->run != testPage && command->run != printStatus)
-        return refuse(u"--printer is for init, status and test-page"_s);
-    if (task.force && command->run != writeCfg && command->run != writeXml)
-        return refuse(u"--force is for write and write-xml"_s);
-    if (task.quiet && command->run != check && command->run != checkDocumentFile)
-        return refuse(u"--quiet is for check and check-document"_s);
     if (task.columns && !starterPaperWidths().contains(*task.columns))
         return refuse(u"\"%1\" columns are none of %2"_s.arg(parser.value(columnsOption), widthsText()));
     return command->run(task);

@@ -74,7 +74,7 @@ private:
     /* False when the printing program ends here. */
     bool beginMethod(const QXmlAttributes &attributes)
     {
-        for (const auto &[line, name] : m_early)
+        for (const auto &[line, name, key] : m_early)
             add(line, u"%1 stands before the method, where nothing is read"_s.arg(quoted(name)));
         m_early.clear();
 
@@ -125,7 +125,7 @@ private:
 
     void addMissingMethod()
     {
-        for (const auto &[line, name] : m_early)
+        for (const auto &[line, name, key] : m_early)
             if (!nearestName(name, {methodElement}).isEmpty())
                 return add(line,
                            u"%1 is no method, without which nothing is printed%2"_s.arg(

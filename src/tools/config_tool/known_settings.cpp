@@ -132,15 +132,11 @@ constexpr KnownSetting printerTable[] = {
     onOff("duplicate"_L1,
           QT_TRANSLATE_NOOP("Settings",
                             "Whether invoices are printed twice, for the guest and for the books.")),
+    onOff("status"_L1,
+          QT_TRANSLATE_NOOP("Settings",
+                            "Whether a printer at a device is asked whether it is ready, and whether it has "
+                            "printed.")),
 };
-
-QString codePagesText(const PrinterSettings &printer)
-{
-    QStringList pages;
-    for (const auto &[page, pageNumber] : printer.codePages)
-        pages << codePageName(page) + u'=' + QString::number(pageNumber);
-    return pages.join(", "_L1);
-}
 
 // What printers have as they leave the factory.
 struct OfModel
@@ -151,7 +147,10 @@ struct OfModel
 
 constexpr OfModel modelValues[] = {
     {"columns"_L1, [](const PrinterSettings &printer) { return QString::number(printer.columns); }},
-    {"codePages"_L1, &codePagesText},
+    {"codePages"_L1,
+     [](const PrinterSettings &printer) {
+         return codePagesText({printer.codePages.data(), static_cast<std::size_t>(printer.codePages.size())});
+     }},
     {"cut"_L1, [](const PrinterSettings &printer) { return QString(cutterName(printer.cut)); }},
     {"feed"_L1, [](const PrinterSettings &printer) { return QString::number(printer.feed); }},
     {"drawerPin"_L1, [](const PrinterSettings &printer) { return QString::number(printer.drawerPin); }},
