@@ -4,6 +4,7 @@
 #include "configuration_scan.h"
 #include "document_profile.h"
 #include "escpos_paper.h"
+#include "label_widths.h"
 #include "labels.h"
 #include "logo.h"
 #include "nearest_name.h"
@@ -113,6 +114,20 @@ bool isOnOneLine(const QString &text)
     return !containsAny(text, u"\r\n");
 }
 
+/* Which line of the text, from 0, looks like a comment; none does in most. */
+std::optional<int> commentLine(const QString &text)
+{
+    static constexpr QLatin1StringView marks[] = {"#"_L1, "//"_L1, "/*"_L1, "<!--"_L1, ";"_L1};
+    int number = 0;
+    for (const QStringView line : QStringView(text).split(u'\n')) {
+        if (std::ranges::any_of(marks,
+                                [&](QLatin1StringView mark) { return line.trimmed().startsWith(mark); }))
+            return number;
+        ++number;
+    }
+    return {};
+}
+
 // What is meant as a value holds nothing that looks like a statement.
 bool swallowsStatements(const QString &value)
 {
@@ -155,6 +170,13 @@ QString specialCharacters(const QStringList &texts)
     return sorted;
 }
 
+/* Whether a text that is meant to be "cfg" begins with a tag, after comments or not. */
+bool looksLikeXml(const QByteArray &text)
+{
+    const QByteArrayView begin = QByteArrayView(text).trimmed();
+    return begin.startsWith("<!--") ? scanXml(text).fault.isEmpty() : begin.startsWith('<');
+}
+
 /* Notes the line of a name, or returns the one that was noted before. */
 std::optional<int> earlierLine(QHash<QString, int> &lines, const QString &name, int line)
 {
@@ -171,6 +193,7 @@ public:
     Check(const QString &file, const QString &kind, const QByteArray &text)
         : m_kind(kind)
         , m_scan(scanConfiguration(text, kind))
+        , m_looksLikeXml(kind == "cfg"_L1 && looksLikeXml(text))
         , m_configuration(file, kind)
     {
     }
@@ -179,8 +202,7 @@ public:
     {
         if (!m_scan.fault.isEmpty())
             return {{m_scan.faultLine, m_scan.fault}};
-        if (m_kind == "cfg"_L1 && !m_scan.statements.empty()
-            && m_scan.statements.front().name.startsWith(u'<'))
+        if (m_looksLikeXml)
             return {
                 {m_scan.statements.front().line,
                  u"this looks like XML, which --type xml checks; the printing program reads cfg alone"_s}};
@@ -237,7 +259,10 @@ private:
         case Kind::remark:
             break;
         case Kind::leftoverText:
-            add(statement.line, u"%1 belongs to no setting and is passed over"_s.arg(quoted(statement.name)));
+            add(statement.line,
+                m_kind == "cfg"_L1 && commentLine(statement.name)
+                    ? u"the format has no comments: %1 belongs to no setting and is passed over"_s.arg(quoted(statement.name))
+                    : u"%1 belongs to no setting and is passed over"_s.arg(quoted(statement.name)));
             break;
         }
     }
@@ -399,6 +424,10 @@ private:
     bool isLegible(int line, const QString &name)
     {
         checkCharacters(line, name);
+        if (const auto comment = m_kind == "cfg"_L1 ? commentLine(name) : std::nullopt) {
+            add(line + *comment, u"the format has no comments: %1 is taken for one name"_s.arg(quoted(name)));
+            return false;
+        }
         if (isOnOneLine(name) && !containsAny(name, u"{;\""))
             return true;
         add(line, u"%1 is taken for one name; is something missing in it?"_s.arg(quoted(name)));
@@ -494,6 +523,27 @@ private:
                     quoted(printer.name), replaced.join(", "_L1)));
     }
 
+    void checkLabelWidths(const QTranslator &labels)
+    {
+        for (const DocumentType &type : documentTypes) {
+            const QString section = sectionPath(type);
+            if (!m_lineOf.contains(section))
+                continue; // without a section there are no columns
+            for (const auto &[setting, text] : wideLabels(type, profileOf(section), labels))
+                add(m_lineOf.value(section + u'.' + setting, m_lineOf.value(section)), text);
+        }
+    }
+
+    // As the narrowest printer prints with it.
+    DocumentProfile profileOf(const QString &section) const
+    {
+        DocumentProfile profile =
+            DocumentProfile::load([&](QLatin1StringView setting) { return value(section, setting); });
+        if (profile.paperWidth == 0)
+            profile.paperWidth = narrowestPaper();
+        return profile;
+    }
+
     // What a paperWidth of 0 becomes on the narrowest printer.
     int narrowestPaper() const
     {
@@ -503,14 +553,10 @@ private:
 
     void checkColumns()
     {
-        const int devicePaperWidth = narrowestPaper();
         for (const auto &[typeName, descriptionWidth] : tightestRows) {
             const QString section =
                 sectionPath(*std::ranges::find(documentTypes, typeName, &DocumentType::name));
-            DocumentProfile profile =
-                DocumentProfile::load([&](QLatin1StringView setting) { return value(section, setting); });
-            if (profile.paperWidth == 0)
-                profile.paperWidth = devicePaperWidth;
+            const DocumentProfile profile = profileOf(section);
             if (const int width = (profile.*descriptionWidth)(); width <= 0)
                 add(m_lineOf.value(section),
                     u"%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3"_s
@@ -538,6 +584,7 @@ private:
             const QString characters = specialCharacters(catalogueTexts(translator.filePath()));
             for (const PrinterSettings &printer : m_receiptPrinters)
                 checkLabels(printer, characters);
+            checkLabelWidths(translator);
             return;
         }
         add(m_lineOf.value(languageSection + ".file"_L1, m_lineOf.value(languageSection + ".basedir"_L1)),
@@ -546,6 +593,7 @@ private:
 
     const QString m_kind;
     const Scan m_scan;
+    const bool m_looksLikeXml;
     const TXConfiguration m_configuration;
     std::vector<Finding> m_found;
     std::vector<OpenSection> m_open;
