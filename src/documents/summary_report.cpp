@@ -10,9 +10,9 @@ namespace {
 class SummaryReport
 {
 public:
-    SummaryReport(PrinterDriver &driver, int paperWidth, const QXmlAttributes &attributes)
+    SummaryReport(PrinterDriver &driver, int labelWidth, const QXmlAttributes &attributes)
         : m_driver(driver)
-        , m_labelWidth(paperWidth - 15)
+        , m_labelWidth(labelWidth)
         , m_attributes(attributes)
     {
     }
@@ -162,6 +162,6 @@ void PrinterDriver::printReport(const QString &qName, const QXmlAttributes &attr
     const auto *block = std::ranges::find(reportBlocks, qName, &ReportBlock::element);
     if (block == std::end(reportBlocks))
         return;
-    SummaryReport report(*this, profile.paperWidth, attributes);
+    SummaryReport report(*this, profile.besideFigures(), attributes);
     (report.*block->print)();
 }

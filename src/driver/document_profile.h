@@ -27,7 +27,7 @@ struct DocumentProfile
 
     // What the other columns of a row leave for the description, negative where they leave nothing: beside
     // the quantity alone, beside price and amount, the same with a quantity after which an "x" stands, and
-    // beside a date and an amount.
+    // beside a date and an amount. For the labels of a report's figures the last one.
     int besideQuantity() const { return paperWidth - quantityFieldWidth - 3; }
     int besideAmounts() const
     {
@@ -35,6 +35,8 @@ struct DocumentProfile
     }
     int besideMultipliedAmounts() const { return besideAmounts() - 2; }
     int besideDateAndAmount() const { return paperWidth - dateWidth - priceFieldWidth - 3; }
+
+    int besideFigures() const { return paperWidth - 15; }
 
     /* The column of a statement's dates, which no setting changes. */
     static constexpr int dateWidth = 15;

@@ -117,7 +117,7 @@ Reading printDocument(QIODevice &document, PrinterDriver &driver)
         return {Reading::End::unreadable, 0, 0, document.errorString()};
 
     BoundedDocument source(document);
-    const Reading reading = readDocument(source, driver);
+    Reading reading = readDocument(source, driver);
     driver.finish(reading.complete() ? Ending::complete : Ending::incomplete);
     return reading;
 }

@@ -269,15 +269,14 @@ Scan scanXml(const QByteArray &text)
     return scan;
 }
 
-QString recognizedKind(QByteArrayView text)
+QString recognizedKind(const QByteArray &text)
 {
-    for (const QByteArrayView mark :
-         {QByteArrayView("\xEF\xBB\xBF"), QByteArrayView("\xFF\xFE"), QByteArrayView("\xFE\xFF")})
-        if (text.startsWith(mark))
-            text = text.sliced(mark.size());
-    const auto *const first =
-        std::ranges::find_if_not(text, [](char c) { return QByteArrayView(" \t\r\n\0", 5).contains(c); });
-    return first != text.end() && *first == '<' ? u"xml"_s : u"cfg"_s;
+    QByteArrayView begin = text;
+    while (!begin.empty() && QByteArrayView("\xEF\xBB\xBF\xFF\xFE \t\r\n\0", 10).contains(begin.front()))
+        begin = begin.sliced(1);
+    // Whoever knows no better begins a "cfg" file with such a comment.
+    const bool isXml = begin.startsWith("<!--") ? scanXml(text).fault.isEmpty() : begin.startsWith('<');
+    return isXml ? u"xml"_s : u"cfg"_s;
 }
 
 Scan scanConfiguration(const QByteArray &text, const QString &kind)

@@ -60,8 +60,9 @@ struct Scan
 Scan scanCfg(const QByteArray &text);
 Scan scanXml(const QByteArray &text);
 
-/* The kind that a text looks like: "xml" when it begins with a tag, else "cfg". */
-QString recognizedKind(QByteArrayView text);
+/* The kind that a text looks like: "xml" when it begins with a tag, after a byte order mark and blanks or
+ * not, or is all XML after a comment; else "cfg". */
+QString recognizedKind(const QByteArray &text);
 
 /* The file's kind is "cfg" or "xml". */
 Scan scanConfiguration(const QByteArray &text, const QString &kind);

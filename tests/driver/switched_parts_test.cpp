@@ -138,15 +138,15 @@ private Q_SLOTS:
             "<orderinfo date='i' time='j' table='k' waiter='l' note='m' credit='n'/>"
             "<customer name='o' billingaddress='p' deliveryaddress='q' telephone='r' licensenumber='s' "
             "fiscalcode='t'/><receipe number='1' name='u' price='v' totalPrice='w'/><total price='x'/>";
-        for (const auto &[name, field] : profileSwitches) {
+        for (const ProfileSetting<bool> &setting : profileSwitches) {
             DocumentProfile profile = everythingOn();
             const QByteArray whole = printed(profile, document);
-            profile.*field = false;
+            profile.*setting.field = false;
             const bool hides = printed(profile, document) != whole;
             const bool hasRow = std::ranges::any_of(
-                switchedParts, [&](const SwitchedPart &part) { return part.wanted == field; });
+                switchedParts, [&](const SwitchedPart &part) { return part.wanted == setting.field; });
             // Without a configuration there is no top margin to hide.
-            QCOMPARE(hides || name == "printGeometry"_L1, hasRow);
+            QCOMPARE(hides || setting.name == "printGeometry"_L1, hasRow);
         }
     }
 };

@@ -1,9 +1,20 @@
 #include "configuration_check.h"
 
 #include "company_printer_driver.h"
+#include "label_widths.h"
+#include "print_document.h"
+#include "print_output.h"
+#include "starter_configuration.h"
 #include "temporary_home.h"
+#include "tx_configuration.h"
 
+#include <QBuffer>
+#include <QCoreApplication>
 #include <QTest>
+#include <QTranslator>
+
+#include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -211,11 +222,46 @@ private Q_SLOTS:
         QTest::newRow("text after a setting")
             << tavolux("doc : {\nprintNote = true; yes;\nprintLogo = true;\n};")
             << QStringList{u"3: \"yes; printLogo\" is taken for one name; is something missing in it?"_s};
+        const QString noComment = u"%1: the format has no comments: %2 is taken for one name"_s;
         QTest::newRow("what looks like a comment")
             << QByteArray("# orders\ntavolux : { doc : { paperWidth = 42; }; };")
             << QStringList{
-                   u"1: \"# orders tavolux\" is taken for one name; is something missing in it?"_s,
+                   noComment.arg(u"1"_s, u"\"# orders tavolux\""_s),
                    u"1: the first section is \"# orders tavolux\", not \"tavolux\", so nothing in the file is found"_s};
+        QTest::newRow("a setting taken out") << tavolux("doc : {\n// paperWidth = 42;\nprintNote = true;\n};")
+                                             << QStringList{noComment.arg(u"3"_s, u"\"// paperWidth\""_s)};
+        QTest::newRow("a section taken out")
+            << tavolux("doc : { printNote = true; };\n# solddoc : { paperWidth = x; };")
+            << QStringList{noComment.arg(u"3"_s, u"\"# solddoc\""_s)};
+        QTest::newRow("after a value, with the line of the comment")
+            << tavolux("doc : { printNote = true; # on\nprintLogo = true;\n};")
+            << QStringList{noComment.arg(u"2"_s, u"\"# on printLogo\""_s)};
+        QTest::newRow("in the second line of a name")
+            << tavolux("doc : {\na\n  ; b\nprintLogo = true;\n};")
+            << QStringList{noComment.arg(u"4"_s, u"\"a ; b printLogo\""_s)};
+        QTest::newRow("as in XML") << tavolux("doc : {\n<!-- note -->\nprintLogo = true;\n};")
+                                   << QStringList{noComment.arg(u"3"_s, u"\"<!-- note --> printLogo\""_s)};
+        QTest::newRow("as in XML, before all else")
+            << QByteArray("<!-- mine -->\ntavolux : {\nx = y; };")
+            << QStringList{
+                   noComment.arg(u"1"_s, u"\"<!-- mine --> tavolux\""_s),
+                   u"1: the first section is \"<!-- mine --> tavolux\", not \"tavolux\", so nothing in the file is found"_s};
+        QTest::newRow("over several lines")
+            << tavolux("doc : {\n/* note\n*/ printLogo = true;\n};")
+            << QStringList{noComment.arg(u"3"_s, u"\"/* note */ printLogo\""_s)};
+        QTest::newRow("at the end")
+            << tavolux("doc : { printNote = true; };") + "# end\n"
+            << QStringList{
+                   u"4: the format has no comments: \"# end\" belongs to no setting and is passed over"_s};
+        QTest::newRow("a sign in a name is no comment")
+            << tavolux("doc : { print#Note = true; };")
+            << QStringList{
+                   u"2: \"print#Note\" is no setting of \"tavolux.doc\" that is ever read; did you mean \"printNote\"?"_s};
+        QTest::newRow("nor is one in a value") << tavolux("doc : {\nstyle = #a;\n};") << QStringList();
+        QTest::newRow("XML that begins with a comment")
+            << QByteArray("<!-- mine -->\n<tavolux><doc printNote=\"true\"/></tavolux>")
+            << QStringList{
+                   u"1: this looks like XML, which --type xml checks; the printing program reads cfg alone"_s};
         QTest::newRow("colon missing")
             << tavolux("doc {\npaperWidth = 42;\n};")
             << QStringList{u"2: \"doc { paperWidth\" is taken for one name; is something missing in it?"_s,
@@ -418,6 +464,142 @@ private Q_SLOTS:
                               "/translations\"; file = \"/tavolux_"
                             + catalogue + ".qm\"; };")),
               "findings");
+    }
+
+    // The labels are Qtà, Descr., Prezzo, Importo, Imponibile, Aliquota IVA, IVA, TOTALE, Numero,
+    // Progressivi.
+    void labelWidths_data()
+    {
+        QTest::addColumn<QByteArray>("section"); // from line 3 on
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QStringList>("findings");
+        QTest::addColumn<QByteArray>("line"); // that the printer prints
+
+        const auto widths = [](int quantity, int price, int total, int paper) {
+            return " : {\nquantityFieldWidth = " + QByteArray::number(quantity) + ";\npriceFieldWidth = "
+                + QByteArray::number(price) + ";\ntotalPriceFieldWidth = " + QByteArray::number(total)
+                + ";\npaperWidth = " + QByteArray::number(paper) + ";\n};";
+        };
+        const auto documentOf = [](const QByteArray &method, const QByteArray &element) {
+            return "<d><method name='" + method + "'/>" + element + "</d>";
+        };
+        const QByteArray item = "<receipe/>";
+        const QByteArray itemType = "<receipe_type/>";
+        const QString title =
+            u"%1: \"%2\" is %3, but the title \"%4\" has %5 characters, so it pushes its row wider"_s;
+        const QString label = u"7: the label \"%1\" has %2 characters, but %3 in its column, so it %4"_s;
+
+        QTest::newRow("titles that just fit")
+            << "receiptdoc" + widths(3, 6, 7, 28) << documentOf("printFullOrderReceipt", item)
+            << QStringList() << "Qtà Descr.     PrezzoImporto"_ba;
+        const QStringList wideTitles{
+            title.arg(u"4"_s, u"quantityFieldWidth"_s, u"2"_s, u"Qtà"_s, u"3"_s),
+            title.arg(u"5"_s, u"priceFieldWidth"_s, u"5"_s, u"Prezzo"_s, u"6"_s),
+            title.arg(u"6"_s, u"totalPriceFieldWidth"_s, u"6"_s, u"Importo"_s, u"7"_s)};
+        const QByteArray wideLine = "Qtà Descr.        PrezzoImporto";
+        QTest::newRow("receipt, all titles too wide")
+            << "receiptdoc" + widths(2, 5, 6, 28) << documentOf("printFullOrderReceipt", item) << wideTitles
+            << wideLine;
+        QTest::newRow("invoice, all titles too wide")
+            << "invoicedoc" + widths(2, 5, 6, 28) << documentOf("printFullOrderInvoice", item) << wideTitles
+            << wideLine;
+        QTest::newRow("order, all titles too wide")
+            << "prefiscaldoc" + widths(2, 5, 6, 28) << documentOf("printFullOrder", item) << wideTitles
+            << wideLine;
+        QTest::newRow("price above the amounts of kinds of items")
+            << "receiptdoc" + widths(3, 6, 5, 28) << documentOf("printAbstractOrderReceipt", itemType)
+            << QStringList{title.arg(u"6"_s, u"totalPriceFieldWidth"_s, u"5"_s, u"Importo"_s, u"7"_s),
+                           title.arg(u"6"_s, u"totalPriceFieldWidth"_s, u"5"_s, u"Prezzo"_s, u"6"_s)}
+            << "Qtà Descr.             Prezzo"_ba;
+        QTest::newRow("labels of totals")
+            << "invoicedoc" + widths(3, 6, 7, 28) << documentOf("printFullOrderInvoice", "<totals/>")
+            << QStringList{label.arg(u"Aliquota IVA"_s, u"12"_s, u"11"_s, u"is cut"_s)}
+            << "    Aliquota IV......       "_ba;
+        QTest::newRow("description and total")
+            << "receiptdoc" + widths(3, 6, 7, 22) << documentOf("printFullOrderReceipt", item)
+            << QStringList{label.arg(u"Descr."_s, u"6"_s, u"5"_s, u"is cut"_s),
+                           label.arg(u"TOTALE"_s, u"6"_s, u"5"_s, u"is cut"_s)}
+            << "Qtà Descr"
+               "PrezzoImporto"_ba;
+        QTest::newRow("titles of a statement")
+            << "reportdoc" + widths(3, 6, 7, 30) << documentOf("printStatementOfAccount", "<statement_list/>")
+            << QStringList{title.arg(u"5"_s, u"priceFieldWidth"_s, u"6"_s, u"Importo"_s, u"7"_s)}
+            << "Data           Descr.Importo"_ba;
+        QTest::newRow("figures of a report")
+            << "reportdoc" + widths(3, 1, 7, 25)
+            << documentOf("printReport", "<invoicessummary firstserial='1'/>")
+            << QStringList{title.arg(u"5"_s, u"priceFieldWidth"_s, u"1"_s, u"Importo"_s, u"7"_s),
+                           label.arg(u"Progressivi"_s, u"11"_s, u"10"_s, u"moves its figure"_s)}
+            << "Progressivi1 - "_ba;
+    }
+    void labelWidths()
+    {
+        QFETCH(const QByteArray, section);
+        QFETCH(QByteArray, document);
+        QFETCH(const QStringList, findings);
+        QFETCH(const QByteArray, line);
+        const QByteArray text = tavolux("language : { basedir = \"" TAVOLUX_BINARY_DIR
+                                        "/translations\"; file = \"/tavolux_it.qm\"; };\n"
+                                        + section);
+        QCOMPARE(check(text), findings);
+
+        QTranslator italian;
+        QVERIFY(italian.load(TAVOLUX_BINARY_DIR "/translations/tavolux_it.qm"_L1));
+        QCoreApplication::installTranslator(&italian); // which takes itself away
+        const TXConfiguration configuration(home.writeFile(u"tavolux.conf"_s, text), u"cfg"_s);
+        QBuffer xml(&document);
+        QBuffer paper;
+        paper.open(QIODevice::WriteOnly);
+        CompanyPrinterDriver printer(configuration, std::make_unique<PrintOutput>(paper, u"paper"_s));
+        QVERIFY(printDocument(xml, printer).complete());
+        QVERIFY2(paper.data().split('\n').contains(line), paper.data().constData());
+    }
+
+    void startersFitEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<int>("paperWidth");
+        const QStringList languages =
+            QString::fromLatin1(fileBytes(u"" TAVOLUX_SOURCE_DIR "/translations/languages"_s))
+                .split(u'\n', Qt::SkipEmptyParts);
+        QVERIFY(!languages.isEmpty());
+        for (const QString &language : languages)
+            for (const int width : starterPaperWidths())
+                QTest::addRow("%s, %d columns", qPrintable(language), width) << language << width;
+    }
+    void startersFitEveryLanguage()
+    {
+        QFETCH(const QString, language);
+        QFETCH(const int, paperWidth);
+        QByteArray text = starterConfiguration(paperWidth);
+        text.replace("file = \"/\";", "file = \"/tavolux_" + language.toLatin1() + ".qm\";");
+        const qsizetype basedir = text.indexOf("basedir = \"");
+        text.replace(basedir, text.indexOf(';', basedir) - basedir,
+                     "basedir = \"" TAVOLUX_BINARY_DIR "/translations\"");
+        QCOMPARE(check(text), QStringList());
+    }
+
+    // A label that the sources spell otherwise would never be found too wide.
+    void everyLabelIsTranslated()
+    {
+        QTranslator italian;
+        QVERIFY(italian.load(TAVOLUX_BINARY_DIR "/translations/tavolux_it.qm"_L1));
+        DocumentProfile profile;
+        profile.quantityFieldWidth = profile.priceFieldWidth = profile.totalPriceFieldWidth = 1;
+        const auto wide = [&](QLatin1StringView type, int paperWidth) {
+            profile.paperWidth = paperWidth;
+            return wideLabels(*std::ranges::find(documentTypes, type, &DocumentType::name), profile, italian)
+                .size();
+        };
+        // Titles, and labels that one character is left for.
+        QCOMPARE(wide("prefiscal"_L1, 5), 3U + 2U);
+        QCOMPARE(wide("receipt"_L1, 5), 4U + 2U);
+        QCOMPARE(wide("invoice"_L1, 5), 4U + 5U);
+        QCOMPARE(wide("report"_L1, 16), 1U + 5U);
+        // Of a statement; IVA is the only label of a report that five characters are enough for.
+        QCOMPARE(wide("report"_L1, 20), 1U + 1U + 4U);
+        for (const QLatin1StringView type : {"order"_L1, "delivery"_L1, "sold"_L1, "fiscal"_L1})
+            QCOMPARE(wide(type, 5), 0U);
     }
 
     void xml_data()

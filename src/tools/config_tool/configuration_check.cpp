@@ -5,6 +5,7 @@
 #include "document_profile.h"
 #include "escpos_paper.h"
 #include "known_settings.h"
+#include "label_widths.h"
 #include "labels.h"
 #include "logo.h"
 #include "nearest_name.h"
@@ -84,6 +85,20 @@ bool isOnOneLine(const QString &text)
     return !containsAny(text, u"\r\n");
 }
 
+/* Which line of the text, from 0, looks like a comment; none does in most. */
+std::optional<int> commentLine(const QString &text)
+{
+    static constexpr QLatin1StringView marks[] = {"#"_L1, "//"_L1, "/*"_L1, "<!--"_L1, ";"_L1};
+    int number = 0;
+    for (const QStringView line : QStringView(text).split(u'\n')) {
+        if (std::ranges::any_of(marks,
+                                [&](QLatin1StringView mark) { return line.trimmed().startsWith(mark); }))
+            return number;
+        ++number;
+    }
+    return {};
+}
+
 // What is meant as a value holds nothing that looks like a statement.
 bool swallowsStatements(const QString &value)
 {
@@ -142,6 +157,7 @@ public:
     Check(const QByteArray &text, const QString &kind)
         : m_kind(kind)
         , m_scan(scanConfiguration(text, kind))
+        , m_looksLikeXml(kind == "cfg"_L1 && recognizedKind(text) == "xml"_L1)
     {
         m_configuration.readText(text, kind);
     }
@@ -150,8 +166,7 @@ public:
     {
         if (!m_scan.fault.isEmpty())
             return {{m_scan.faultLine, m_scan.fault}};
-        if (m_kind == "cfg"_L1 && !m_scan.statements.empty()
-            && m_scan.statements.front().name.startsWith(u'<'))
+        if (m_looksLikeXml)
             return {
                 {m_scan.statements.front().line,
                  u"this looks like XML, which --type xml checks; the printing program reads cfg alone"_s}};
@@ -215,7 +230,11 @@ private:
         case Kind::remark:
             break;
         case Kind::leftoverText:
-            add(statement.line, u"%1 belongs to no setting and is passed over"_s.arg(quoted(statement.name)));
+            add(statement.line,
+                m_kind == "cfg"_L1 && commentLine(statement.name)
+                    ? u"the format has no comments: %1 belongs to no setting and is passed over"_s.arg(
+                        quoted(statement.name))
+                    : u"%1 belongs to no setting and is passed over"_s.arg(quoted(statement.name)));
             break;
         }
     }
@@ -339,6 +358,10 @@ private:
     bool isLegible(int line, const QString &name)
     {
         checkCharacters(line, name);
+        if (const auto comment = m_kind == "cfg"_L1 ? commentLine(name) : std::nullopt) {
+            add(line + *comment, u"the format has no comments: %1 is taken for one name"_s.arg(quoted(name)));
+            return false;
+        }
         if (isOnOneLine(name) && !containsAny(name, u"{;\""))
             return true;
         add(line, u"%1 is taken for one name; is something missing in it?"_s.arg(quoted(name)));
@@ -434,6 +457,27 @@ private:
                       quoted(printer.name), replaced.join(", "_L1)));
     }
 
+    void checkLabelWidths(const QTranslator &labels)
+    {
+        for (const DocumentType &type : documentTypes) {
+            const QString section = sectionPath(type);
+            if (!m_lineOf.contains(section))
+                continue; // without a section there are no columns
+            for (const auto &[setting, text] : wideLabels(type, profileOf(section), labels))
+                addAt(section + u'.' + setting, text, section);
+        }
+    }
+
+    // As the narrowest printer prints with it.
+    DocumentProfile profileOf(const QString &section) const
+    {
+        DocumentProfile profile =
+            DocumentProfile::load([&](QLatin1StringView setting) { return value(section, setting); });
+        if (profile.paperWidth == 0)
+            profile.paperWidth = narrowestPaper();
+        return profile;
+    }
+
     // What a paperWidth of 0 becomes on the narrowest printer.
     int narrowestPaper() const
     {
@@ -443,14 +487,10 @@ private:
 
     void checkColumns()
     {
-        const int devicePaperWidth = narrowestPaper();
         for (const auto &[typeName, descriptionWidth] : tightestRows) {
             const QString section =
                 sectionPath(*std::ranges::find(documentTypes, typeName, &DocumentType::name));
-            DocumentProfile profile =
-                DocumentProfile::load([&](QLatin1StringView setting) { return value(section, setting); });
-            if (profile.paperWidth == 0)
-                profile.paperWidth = devicePaperWidth;
+            const DocumentProfile profile = profileOf(section);
             if (const int width = (profile.*descriptionWidth)(); width <= 0)
                 addAt(
                     section,
@@ -479,6 +519,7 @@ private:
             const QString characters = specialCharacters(catalogueTexts(translator.filePath()));
             for (const PrinterSettings &printer : m_receiptPrinters)
                 checkLabels(printer, characters);
+            checkLabelWidths(translator);
             return;
         }
         addAt(languageSection + ".file"_L1, u"the translation \"%1\" is not found"_s.arg(name),
@@ -487,6 +528,7 @@ private:
 
     const QString m_kind;
     const Scan m_scan;
+    const bool m_looksLikeXml;
     TXConfiguration m_configuration{{}, {}};
     std::vector<Finding> m_found;
     std::vector<OpenSection> m_open;
