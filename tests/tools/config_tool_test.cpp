@@ -50,11 +50,31 @@ private Q_SLOTS:
         const ProgramResult result = run({option});
         QCOMPARE(result.exitStatus, 0);
         QCOMPARE(result.standardError, "");
-        for (const char *text :
-             {"get KEY", "tree", "write OUT", "write-xml OUT", "check", "check-document DOC", "init",
-              "models", "status [DEVICE]", "test-page [OUT]", "edit", "--file <FILE>", "--type <cfg|xml>",
-              "--columns <32|40|42|48>", "--printer <MODEL|NAME>", "--output <FILE>", "--force", "--quiet",
-              "--help", "--version"})
+        for (const char *text : {"list [SECTION]",
+                                 "get KEY",
+                                 "set KEY VALUE...",
+                                 "unset KEY",
+                                 "tree",
+                                 "write OUT",
+                                 "write-xml OUT",
+                                 "check",
+                                 "check-document DOC",
+                                 "init",
+                                 "models",
+                                 "status [DEVICE]",
+                                 "test-page [OUT]",
+                                 "edit",
+                                 "--file <FILE>",
+                                 "--type <cfg|xml>",
+                                 "--columns <32|40|42|48>",
+                                 "--printer <MODEL|NAME>",
+                                 "--output <FILE>",
+                                 "--force",
+                                 "--json",
+                                 "--names",
+                                 "--quiet",
+                                 "--help",
+                                 "--version"})
             QVERIFY2(result.standardOutput.contains(text), text);
     }
 
@@ -78,6 +98,14 @@ private Q_SLOTS:
         QTest::newRow("unknown command")
             << QStringList{u"frobnicate"_s} << QByteArray("there is no command \"frobnicate\"");
         QTest::newRow("get without a key") << QStringList{u"get"_s} << QByteArray("get needs KEY");
+        QTest::newRow("set without a value")
+            << QStringList{u"set"_s, u"a.b"_s} << QByteArray("set needs KEY VALUE...");
+        QTest::newRow("set of two with one value")
+            << QStringList{u"set"_s, u"a.b"_s, u"1"_s, u"a.c"_s} << QByteArray("the value of a.c is missing");
+        QTest::newRow("unset of two")
+            << QStringList{u"unset"_s, u"a.b"_s, u"a.c"_s} << QByteArray("unset does not take \"a.c\"");
+        QTest::newRow("JSON where there is none")
+            << QStringList{u"tree"_s, u"--json"_s} << QByteArray("--json is for list");
         QTest::newRow("write without a file") << QStringList{u"write"_s} << QByteArray("write needs OUT");
         QTest::newRow("write to an empty name")
             << QStringList{u"write"_s, QString()} << QByteArray("the name of the file to write is empty");
@@ -95,7 +123,7 @@ private Q_SLOTS:
         QTest::newRow("columns where they mean nothing")
             << QStringList{u"check"_s, u"--columns"_s, u"42"_s} << QByteArray("--columns is for init");
         QTest::newRow("force where it means nothing")
-            << QStringList{u"check"_s, u"--force"_s} << QByteArray("--force is for write and write-xml");
+            << QStringList{u"check"_s, u"--force"_s} << QByteArray("--force is for set, write and write-xml");
         QTest::newRow("quiet where it means nothing")
             << QStringList{u"tree"_s, u"--quiet"_s} << QByteArray("--quiet is for check and check-document");
         QTest::newRow("check of no document")
@@ -183,7 +211,7 @@ private Q_SLOTS:
         const QString file = home->writeFile(u"some.conf"_s, text);
         const ProgramResult result = run({u"--file"_s, file, u"--type"_s, kind, u"get"_s, key});
         QCOMPARE(result.standardOutput, value + '\n');
-        QCOMPARE(result.standardError, "");
+        QCOMPARE(result.standardError, key.isEmpty() ? "tavolux-config: there is no setting \"\"\n" : "");
         QCOMPARE(result.exitStatus, value.isEmpty() ? 1 : 0);
     }
 

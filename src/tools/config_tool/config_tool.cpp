@@ -249,7 +249,7 @@ constexpr Command commands[] = {
     {"get"_L1, "KEY"_L1, ""_L1,
      "print the value that the printing program sees, such as of tavolux.doc.paperWidth"_L1, printValue},
     {"set"_L1, "KEY VALUE..."_L1, "force"_L1, "give settings values, and leave all else as it is"_L1,
-     setValue},
+     setValues},
     {"unset"_L1, "KEY"_L1, ""_L1, "take a setting out, and leave all else as it is"_L1, unsetValue},
     {"tree"_L1, ""_L1, ""_L1, "print all sections and settings as they are stored"_L1, printTree},
     {"write"_L1, "OUT"_L1, "force"_L1, "write the configuration to OUT, of the kind cfg"_L1, writeCfg},

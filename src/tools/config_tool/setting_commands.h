@@ -7,4 +7,4 @@
 ExitStatus printValue(const Task &task);
 ExitStatus listSettings(const Task &task);
 ExitStatus setValues(const Task &task);
-ExitStatus unsetValues(const Task &task);
+ExitStatus unsetValue(const Task &task);
