@@ -442,10 +442,13 @@ void PrintServerTest::failsWithoutAConfiguration()
     QTRY_VERIFY_WITH_TIMEOUT(m_server->openJobs(queue).contains(status), 30'000);
     QTRY_VERIFY_WITH_TIMEOUT(m_server->client(u"lpstat"_s, {u"-p"_s, queue}).contains("is idle"), 30'000);
 
+    QCOMPARE(m_server->reasons(queue), "tavolux-configuration-error");
+
     QVERIFY(QFile::rename(file + u'x', file));
     m_server->client(u"lp"_s, {u"-i"_s, job, u"-H"_s, u"restart"_s});
     QVERIFY(printer.waitUntil([](const PrinterLog &log) { return log.jobs.size() == 1; }));
     QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
+    QCOMPARE(m_server->reasons(queue), "none");
 }
 
 void PrintServerTest::takesNoOtherXml_data()
