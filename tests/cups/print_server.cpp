@@ -29,6 +29,7 @@ WebInterface No
 DirtyCleanInterval 0
 MaxJobs 0
 MaxJobTime 0
+PreserveJobHistory 86400
 <Location />
   Order allow,deny
   Allow all

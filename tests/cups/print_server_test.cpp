@@ -350,7 +350,9 @@ void PrintServerTest::printsDocumentsAsTheProgramDoes()
     const QString queue = newDocumentQueue(printer, section);
 
     QByteArrayList expected;
-    for (const QFileInfo &document : QDir(examples).entryInfoList(QDir::Files, QDir::Name)) {
+    const QFileInfoList documents = QDir(examples).entryInfoList(QDir::Files, QDir::Name);
+    QCOMPARE(documents.size(), 13);
+    for (const QFileInfo &document : documents) {
         const QString printed = home.filePath(u"printed"_s);
         runProgram(QStringLiteral(TAVOLUX_PRINTER), {document.filePath(), printed},
                    {{u"HOME"_s, home.path()}});
