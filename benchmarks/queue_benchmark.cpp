@@ -125,6 +125,12 @@ public:
         };
     }
 
+    /* Waits until the print server has done with all jobs. */
+    void waitUntilIdle() const
+    {
+        while (!server.client(u"lpstat"_s, {u"-o"_s}).isEmpty()) { }
+    }
+
     /* Waits until each printer has printed so many. */
     void wait(qsizetype jobs) const
     {
@@ -175,7 +181,7 @@ void measureLatency(const QByteArray &bytes)
             restaurant.submit(0);
             first.push_back(milliseconds(firstByte.get() - start));
             last.push_back(milliseconds(printed.get() - start));
-            while (!restaurant.server.openJobs(restaurant.queues[0]).isEmpty()) { }
+            restaurant.waitUntilIdle();
         }
         check(restaurant, bytes, rounds);
         std::printf("%-10s %10.0f (%6.0f) %11.0f (%6.0f)\n", kind.name, median(first),
@@ -196,12 +202,15 @@ struct Rates
 Rates measureRates(const Kind &kind, const QByteArray &bytes, int printers, int waiting, int measured)
 {
     const Restaurant restaurant(kind, bytes, printers);
-    restaurant.server.client(u"cupsdisable"_s, restaurant.queues);
     const auto submitEach = [&](int jobs) {
         for (int job = 0; job < jobs; ++job)
             for (int queue = 0; queue < printers; ++queue)
                 restaurant.submit(queue);
     };
+    submitEach(1); // the first of a queue, for which everything is new
+    restaurant.wait(1);
+    restaurant.waitUntilIdle();
+    restaurant.server.client(u"cupsdisable"_s, restaurant.queues);
     {
         constexpr int clients = 4;
         std::vector<std::future<void>> atWork;
@@ -224,12 +233,12 @@ Rates measureRates(const Kind &kind, const QByteArray &bytes, int printers, int 
     before = processorTime(restaurant.server);
     start = Clock::now();
     restaurant.server.client(u"cupsenable"_s, restaurant.queues);
-    restaurant.wait(measured);
+    restaurant.wait(1 + measured);
     rates.out = counted * 1000 / milliseconds(Clock::now() - start);
     const ProcessorTime after = processorTime(restaurant.server);
     rates.perJobOut = {(after.server - before.server) / counted,
                        (after.programs - before.programs) / counted};
-    check(restaurant, bytes, measured);
+    check(restaurant, bytes, 1 + measured);
     return rates;
 }
 
