@@ -379,7 +379,7 @@ void BackendTest::printsOnAMutePrinter_data()
         << QString()
         << "WARNING: The printer does not tell its status: nobody knows whether the job was "
            "printed. With ?status=no in the address of the queue it is not asked.\n"_ba;
-    QTest::newRow("not asked") << u"?status=no"_s << QByteArray();
+    QTest::newRow("not asked") << u"/?status=no"_s << QByteArray();
 }
 
 void BackendTest::printsOnAMutePrinter()

@@ -247,8 +247,36 @@ private Q_SLOTS:
         QCOMPARE(result.exitStatus, 1);
         QCOMPARE(result.standardOutput, QByteArray());
         QCOMPARE(result.standardError,
-                 "ERROR: Nothing was printed, because the configuration " + file.toLatin1()
-                     + " cannot be read: " + reason + ".\n");
+                 "STATE: +tavolux-configuration-error\n"
+                 "ERROR: Nothing was printed, because the configuration "
+                     + file.toLatin1() + " cannot be read: " + reason + ".\n");
+    }
+
+    // The queue shows it once, until a configuration can be read.
+    void showsAMissingConfiguration_data()
+    {
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QByteArray>("change");
+        const QString missing = u"configuration=/nowhere/tavolux.conf"_s;
+        const QString reasons = u"media-low-warning,tavolux-configuration-error"_s;
+        QTest::newRow("still missing") << reasons << missing << QByteArray();
+        QTest::newRow("there again") << reasons << QString() << "STATE: -tavolux-configuration-error\n"_ba;
+        QTest::newRow("never missing") << u"none"_s << QString() << QByteArray();
+    }
+
+    void showsAMissingConfiguration()
+    {
+        QFETCH(const QString, shown);
+        QFETCH(const QString, options);
+        QFETCH(const QByteArray, change);
+        Queue queue(configuration(generic));
+        queue.environment[u"PRINTER_STATE_REASONS"_s] = shown;
+        QByteArray states;
+        for (const QByteArray &line : lines(queue.print(ticket, options)))
+            if (line.startsWith("STATE: "))
+                states += line + '\n';
+        QCOMPARE(states, change);
     }
 
     void warnsOfWhatItDoesNotTake_data()

@@ -29,6 +29,7 @@ WebInterface No
 DirtyCleanInterval 0
 MaxJobs 0
 MaxJobTime 0
+PreserveJobHistory 86400
 <Location />
   Order allow,deny
   Allow all
@@ -100,6 +101,7 @@ PrintServer::PrintServer()
     makeFolder(file(u"state"_s), 0755);
     makeFolder(file(u"bin/backend"_s), 0755);
     makeFolder(file(u"bin/filter"_s), 0755);
+    QFile::link(systemServerBin + u"/backend/socket"_s, file(u"bin/backend/socket"_s)); // to compare with
     for (const QString &folder : {u"daemon"_s, u"notifier"_s, u"cgi-bin"_s})
         QFile::link(systemServerBin + u'/' + folder, file(u"bin/"_s + folder));
     install(QStringLiteral(TAVOLUX_BACKEND), file(u"bin/backend/tavolux"_s), 0755);

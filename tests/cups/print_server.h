@@ -52,6 +52,8 @@ public:
     /* What lpstat shows of the jobs that are waiting, printing or held in the queue. */
     QByteArray openJobs(const QString &queue) const;
 
+    qint64 processId() const { return m_process.processId(); }
+
     /* What it has written to its log, for a test that fails. */
     QByteArray log() const;
 

@@ -350,7 +350,9 @@ void PrintServerTest::printsDocumentsAsTheProgramDoes()
     const QString queue = newDocumentQueue(printer, section);
 
     QByteArrayList expected;
-    for (const QFileInfo &document : QDir(examples).entryInfoList(QDir::Files, QDir::Name)) {
+    const QFileInfoList documents = QDir(examples).entryInfoList(QDir::Files, QDir::Name);
+    QCOMPARE(documents.size(), 13);
+    for (const QFileInfo &document : documents) {
         const QString printed = home.filePath(u"printed"_s);
         runProgram(QStringLiteral(TAVOLUX_PRINTER), {document.filePath(), printed},
                    {{u"HOME"_s, home.path()}});
@@ -442,10 +444,13 @@ void PrintServerTest::failsWithoutAConfiguration()
     QTRY_VERIFY_WITH_TIMEOUT(m_server->openJobs(queue).contains(status), 30'000);
     QTRY_VERIFY_WITH_TIMEOUT(m_server->client(u"lpstat"_s, {u"-p"_s, queue}).contains("is idle"), 30'000);
 
+    QCOMPARE(m_server->reasons(queue), "tavolux-configuration-error");
+
     QVERIFY(QFile::rename(file + u'x', file));
     m_server->client(u"lp"_s, {u"-i"_s, job, u"-H"_s, u"restart"_s});
     QVERIFY(printer.waitUntil([](const PrinterLog &log) { return log.jobs.size() == 1; }));
     QTRY_COMPARE_WITH_TIMEOUT(m_server->openJobs(queue), QByteArray(), 30'000);
+    QCOMPARE(m_server->reasons(queue), "none");
 }
 
 void PrintServerTest::takesNoOtherXml_data()

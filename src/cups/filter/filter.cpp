@@ -50,6 +50,15 @@ void warn(const QString &message)
     report("WARNING", message.toStdString());
 }
 
+/* Shows in the queue whether its configuration can be read: all of its jobs fail while it cannot. */
+void showConfigurationFault(bool faulty)
+{
+    constexpr auto reason = "tavolux-configuration-error";
+    const bool shown = qgetenv("PRINTER_STATE_REASONS").split(',').contains(reason);
+    if (faulty != shown)
+        report("STATE", (faulty ? "+" : "-") + std::string(reason));
+}
+
 /* While it lives each line that the printing path prints for people is a warning in the print system's log.
  */
 class DiagnosticsAsWarnings : public std::streambuf
@@ -182,6 +191,7 @@ int runFilter(std::span<char *const> arguments, int printout)
     const QString configurationOfJob = options.ofJob(u"configuration"_s);
     const QString configurationFile = configurationOfJob.isEmpty() ? usualConfiguration : configurationOfJob;
     const FileContent settings = readRegularFile(configurationFile);
+    showConfigurationFault(!settings.fault.isEmpty());
     if (!settings.fault.isEmpty())
         return fail(u"Nothing was printed, because the configuration %1 cannot be read: %2."_s.arg(
             configurationFile, settings.fault));
