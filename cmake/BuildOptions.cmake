@@ -1,5 +1,5 @@
-# What every target is compiled and linked with. Presets turn warnings into errors
-# (CMAKE_COMPILE_WARNING_AS_ERROR) and name the sanitizers (TAVOLUX_SANITIZERS).
+# What every target is compiled and linked with. Presets name the sanitizers (TAVOLUX_SANITIZERS) and, for those who
+# change the sources, turn warnings into errors (CMAKE_COMPILE_WARNING_AS_ERROR).
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -9,6 +9,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 include(CheckPIESupported)
 check_pie_supported()
+# Programs are compiled as libraries are: with -fPIE the linker would copy a library's data into the program, and the
+# toolkit tells classes apart by the address of its data.
+set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
 
 set(TAVOLUX_SANITIZERS "" CACHE STRING "Sanitizers to build with, as in -fsanitize=")
 

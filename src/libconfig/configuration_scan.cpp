@@ -261,8 +261,15 @@ Scan scanXml(const QByteArray &text)
     }
 
     QDomDocument document;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    const QDomDocument::ParseResult parsed = document.setContent(text);
+    const QString reason = parsed.errorMessage;
+    scan.faultLine = static_cast<int>(parsed.errorLine);
+#else
     QString reason;
-    if (document.setContent(text, &reason, &scan.faultLine))
+    const bool parsed = document.setContent(text, &reason, &scan.faultLine);
+#endif
+    if (parsed)
         scan.beginsWithRoot = document.firstChild().isElement();
     else
         scan.fault = xmlFault(reason);
