@@ -24,7 +24,7 @@ function __tavolux_config_expects
 end
 
 function __tavolux_config_commands
-    tavolux-config --help | string match -rg '^  ([a-z-]+) .*?  +([a-z].*)$|^  ([a-z-]+) +([a-z].*)$' | string join0 | string replace -a \0 \n | paste - -
+    tavolux-config --help | string replace -rf '^  ([a-z][a-z-]*)( [^a-z ]+)*  +([a-z].*)$' '$1\t$3'
 end
 
 # The keys of the configuration that the line names, or else of the user's own.
