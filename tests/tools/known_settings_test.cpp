@@ -196,7 +196,7 @@ private Q_SLOTS:
         const qsizetype begin = page.indexOf(heading + u'\n');
         QVERIFY(begin >= 0);
         const QString part = page.sliced(begin, page.indexOf("\n## "_L1, begin + 1) - begin);
-        static const QRegularExpression row(u"^\\| `(?:[a-z]+\\.)*(\\w+)` \\| ([^|]+) \\| ([^|]*) \\|"_s,
+        static const QRegularExpression row(u"^\\| `(?:[a-z]+\\.)*(\\w+)` \\| ([^|]+) \\|([^|]*)\\|"_s,
                                             QRegularExpression::MultilineOption);
         QStringList described;
         for (auto match = row.globalMatch(part); match.hasNext();) {

@@ -20,8 +20,9 @@ const QByteArray configuration = "tavolux : {\n"
                                  "    till : { model = generic-58; output = \"/dev/lp0\"; };\n"
                                  "  };\n"
                                  "  receiptdoc : {\n"
-                                 "    paperWidth = 30; width of the till's paper\n"
+                                 "    paperWidth = 30;\n"
                                  "    printTable = true;\n"
+                                 "    the paper of the till\n"
                                  "  };\n"
                                  "};\n"
                                  "after the end\n";
@@ -114,7 +115,7 @@ private Q_SLOTS:
         QFETCH(const QStringList, arguments);
         QFETCH(const QByteArray, before);
         QFETCH(const QByteArray, after);
-        // What check has found before is nobody's concern here: the remark after paperWidth.
+        // What check has found before is nobody's concern here: the remark in the section.
         const ProgramResult result = run(QStringList{u"set"_s} + arguments);
         QCOMPARE(result.standardError, "");
         QCOMPARE(result.standardOutput, "");

@@ -328,12 +328,13 @@ private:
                 key);
             return;
         }
-        checkCharacters(setting.line, setting.value, key);
+        const KnownSetting *const known = findSetting(key);
+        if (!known || known->kind != SettingKind::file) // whose name is bytes
+            checkCharacters(setting.line, setting.value, key);
         if (!legible || m_open.empty() || !m_open.back().isRead)
             return;
 
         OpenSection &section = m_open.back();
-        const KnownSetting *const known = findSetting(key);
         if (!known) {
             QStringList names;
             for (const KnownSetting *other : settingsOf(section.path))

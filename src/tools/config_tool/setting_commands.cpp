@@ -43,8 +43,9 @@ QStringList allKeys(const ConfigurationText &text, const TXConfiguration &config
 /* The key that was probably meant; the first section is the one thing that nobody thinks of. */
 QString suggestedKey(const QString &key, const QStringList &keys)
 {
-    const QString nearest = suggestion(key, keys);
-    return nearest.isEmpty() ? suggestion("tavolux."_L1 + key, keys) : nearest;
+    const QString whole = "tavolux."_L1 + key;
+    const QString nearest = keys.contains(whole) ? QString() : suggestion(key, keys);
+    return nearest.isEmpty() ? suggestion(whole, keys) : nearest;
 }
 
 /* A row of the list. */
