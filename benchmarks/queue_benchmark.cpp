@@ -136,7 +136,7 @@ public:
     {
         for (const SimulatedPrinter &printer : printers)
             while (!printer.waitUntil(printed(jobs)))
-                std::fprintf(stderr, "waiting\n");
+                std::fprintf(stderr, "not all is printed yet\n");
     }
 
     PrintServer server;
