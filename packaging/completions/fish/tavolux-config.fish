@@ -44,7 +44,7 @@ complete -c tavolux-config -n '__tavolux_config_expects check-document write wri
 complete -c tavolux-config -l file -r -F -d 'the configuration'
 complete -c tavolux-config -l type -x -a 'cfg xml' -d 'what kind of file it is'
 complete -c tavolux-config -l columns -x -a '32 40 42 48' -d 'for init: the width of the paper'
-complete -c tavolux-config -l printer -x -a '(tavolux-config models 2>/dev/null | tail -n +2 | string split -f 1 " ")' -d 'a model, or a printer'
+complete -c tavolux-config -n 'not contains -- status (__tavolux_config_words); and not contains -- test-page (__tavolux_config_words)' -l printer -x -a '(tavolux-config models | tail -n +2 | string split -f 1 " ")' -d 'a model, or a printer'
 complete -c tavolux-config -l output -r -F -d 'for init: what the printer prints'
 complete -c tavolux-config -l force -d 'write or set it all the same'
 complete -c tavolux-config -s q -l quiet -d 'print no findings'
