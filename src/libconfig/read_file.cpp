@@ -28,8 +28,9 @@ FileContent readRegularFile(const QString &name)
         return {{}, qt_error_string(error)};
     }
     QFile file;
-    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    FileContent content{file.readAll()};
+    FileContent content;
+    if (file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        content.bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         content = {{}, file.errorString()};
     return content;
