@@ -27,7 +27,8 @@ FileFault openRegularFile(QFile &file, const QString &name)
         const int error = errno;
         return {qt_error_string(error)};
     }
-    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return {file.errorString()};
     return {};
 }
 
