@@ -273,3 +273,14 @@ Scan scanConfiguration(const QByteArray &text, const QString &kind)
 {
     return kind == "xml"_L1 ? scanXml(text) : scanCfg(text);
 }
+
+QString kindOfConfiguration(const QByteArray &text)
+{
+    QByteArrayView begin = text;
+    for (const QByteArrayView mark : {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"}) // of an encoding
+        if (begin.startsWith(mark))
+            begin = begin.sliced(mark.size());
+    if (begin.startsWith('\0')) // of the first letter in two bytes
+        begin = begin.sliced(1);
+    return begin.trimmed().startsWith('<') ? u"xml"_s : u"cfg"_s;
+}

@@ -60,5 +60,8 @@ struct Scan
 Scan scanCfg(const QByteArray &text);
 Scan scanXml(const QByteArray &text);
 
+/* The kind of a configuration by its content: "xml" when it begins with a tag, else "cfg". */
+QString kindOfConfiguration(const QByteArray &text);
+
 /* The file's kind is "cfg" or "xml". */
 Scan scanConfiguration(const QByteArray &text, const QString &kind);
