@@ -7,17 +7,10 @@
 
 #include <QDir>
 #include <QDirIterator>
-#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using libconfig::ConfigurationText;
-
-namespace {
-
-constexpr int mostOfAFile = 2; // settings, of those with more
-
-} // namespace
 
 /* Whatever value of whatever file is edited: the saved file has other bytes where the value stands and
  * nowhere else, and whoever prints reads the value. */
@@ -79,34 +72,32 @@ void EditorSavingTest::changesOneValueAndNothingElse()
         std::ranges::count_if(document.text().entries(), &ConfigurationText::Entry::isSetting);
     QCOMPARE(std::ssize(places), settings); // each is shown, once
 
-    QRandomGenerator random(14);
-    for (int tries = std::min<int>(mostOfAFile, static_cast<int>(places.size())); tries > 0; --tries) {
-        const Place &place =
-            places[static_cast<std::size_t>(random.bounded(static_cast<int>(places.size())))];
-        const auto [begin, end] = document.text().entry(place.setting.entry).valueSpan;
-        const std::optional<int> lookedUp = document.text().settingOf(keyOf(place.section, place.setting));
+    if (places.empty())
+        return;
+    // One of each file, since each save waits for the disk.
+    const std::size_t some = qHashBits(original.constData(), static_cast<std::size_t>(original.size()));
+    const Place &place = places[some % places.size()];
+    const auto [begin, end] = document.text().entry(place.setting.entry).valueSpan;
+    const std::optional<int> lookedUp = document.text().settingOf(keyOf(place.section, place.setting));
 
-        SettingsModel model(document);
-        model.show(place.section);
-        int row = 0;
-        while (model.settings()[static_cast<std::size_t>(row)].entry != place.setting.entry)
-            ++row;
-        QVERIFY(model.setData(model.index(row, SettingsModel::valueColumn), u"x 4711"_s));
-        QVERIFY(document.save(copy));
+    SettingsModel model(document);
+    model.show(place.section);
+    int row = 0;
+    while (model.settings()[static_cast<std::size_t>(row)].entry != place.setting.entry)
+        ++row;
+    QVERIFY(model.setData(model.index(row, SettingsModel::valueColumn), u"x 4711"_s));
+    QVERIFY(document.save(copy));
 
-        const QByteArray saved = fileBytes(copy);
-        QCOMPARE(saved.first(begin), original.first(begin));
-        QCOMPARE(saved.last(original.size() - end), original.sliced(end));
-        const QByteArray value = saved.sliced(begin, saved.size() - original.size() + end - begin);
-        QVERIFY2(value == "x 4711" || value == "\"x 4711\"", value.constData());
-        if (lookedUp == place.setting.entry)
-            QCOMPARE(TXConfiguration(copy, kind).getStrValue(keyOf(place.section, place.setting)),
-                     u"x 4711"_s);
+    const QByteArray saved = fileBytes(copy);
+    QCOMPARE(saved.first(begin), original.first(begin));
+    QCOMPARE(saved.last(original.size() - end), original.sliced(end));
+    const QByteArray value = saved.sliced(begin, saved.size() - original.size() + end - begin);
+    QVERIFY2(value == "x 4711" || value == "\"x 4711\"", value.constData());
+    if (lookedUp == place.setting.entry)
+        QCOMPARE(TXConfiguration(copy, kind).getStrValue(keyOf(place.section, place.setting)), u"x 4711"_s);
 
-        document.undoStack().undo();
-        QVERIFY(document.save(copy));
-        QCOMPARE(fileBytes(copy), original);
-    }
+    document.undoStack().undo();
+    QCOMPARE(document.text().text(), original);
 }
 
 QTEST_GUILESS_MAIN(EditorSavingTest)

@@ -235,6 +235,18 @@ Edits the configuration of tavolux-printer, which prints the documents of a rest
 
 Bearbeitet die Konfiguration von tavolux-printer, das die Belege eines Restaurants druckt.</translation>
     </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPane</name>

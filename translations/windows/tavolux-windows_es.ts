@@ -235,6 +235,18 @@ Edits the configuration of tavolux-printer, which prints the documents of a rest
 
 Edita la configuración de tavolux-printer, que imprime los documentos de un restaurante.</translation>
     </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Añadir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPane</name>

@@ -235,6 +235,18 @@ Edits the configuration of tavolux-printer, which prints the documents of a rest
 
 Modifie la configuration de tavolux-printer, qui imprime les documents d’un restaurant.</translation>
     </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPane</name>

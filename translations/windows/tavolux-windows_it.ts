@@ -235,6 +235,18 @@ Edits the configuration of tavolux-printer, which prints the documents of a rest
 
 Modifica la configurazione di tavolux-printer, che stampa i documenti di un ristorante.</translation>
     </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPane</name>

@@ -69,7 +69,7 @@ EditorWindow::EditorWindow(Dialogs &dialogs)
     , m_findings(new FindingsPane(m_document))
     , m_preview(new PreviewPane(m_document))
 {
-    resize(1000, 640);
+    resize(1060, 660);
     setAcceptDrops(true);
     createViews();
     createFileMenu();
@@ -79,6 +79,7 @@ EditorWindow::EditorWindow(Dialogs &dialogs)
     addDockWidget(Qt::RightDockWidgetArea, m_preview);
     addDockWidget(Qt::BottomDockWidgetArea, m_findings);
     resizeDocks({m_findings}, {90}, Qt::Vertical);
+    resizeDocks({m_preview}, {380}, Qt::Horizontal);
     restoreLayout();
 
     connect(&m_document, &ConfigurationDocument::changed, this, &EditorWindow::followText);
@@ -110,6 +111,7 @@ void EditorWindow::createViews()
     m_sectionsView->setRootIsDecorated(false);
     m_sectionsView->setItemsExpandable(false);
     m_sectionsView->setIndentation(14);
+    m_sectionsView->setMinimumWidth(150);
     m_sectionsView->setAccessibleName(tr("Sections"));
     connect(m_sectionsView->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &index) {
@@ -126,8 +128,11 @@ void EditorWindow::createViews()
     m_settingsView->setEditTriggers(QTreeView::DoubleClicked | QTreeView::EditKeyPressed
                                     | QTreeView::AnyKeyPressed);
     m_settingsView->setAccessibleName(tr("Settings"));
-    m_settingsView->header()->setSectionResizeMode(SettingsModel::nameColumn, QHeaderView::Interactive);
-    m_settingsView->header()->resizeSection(SettingsModel::nameColumn, 190);
+    m_settingsView->header()->setStretchLastSection(false);
+    m_settingsView->header()->setSectionResizeMode(SettingsModel::valueColumn, QHeaderView::Stretch);
+    m_settingsView->header()->resizeSection(SettingsModel::nameColumn, 170);
+    m_settingsView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_settingsView->setMinimumWidth(300); // at the cost of the preview
     connect(m_settingsView, &QTreeView::activated, this, &EditorWindow::editValue);
     connect(m_settingsView->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &EditorWindow::followCurrent);
@@ -166,7 +171,7 @@ void EditorWindow::createViews()
     m_splitter->addWidget(settingsSide);
     m_splitter->setStretchFactor(1, 1);
     m_splitter->setChildrenCollapsible(false);
-    m_splitter->setSizes({190, 400});
+    m_splitter->setSizes({200, 420});
     auto *rows = new QVBoxLayout;
     rows->addLayout(findRow);
     rows->addWidget(m_splitter, 1);
@@ -619,7 +624,12 @@ void EditorWindow::removeSection()
 void EditorWindow::addSetting()
 {
     const std::optional<ShownSection> section = m_settings.section();
-    const QString name = QInputDialog::getText(this, tr("Add a Setting"), tr("Name:")).trimmed();
+    QInputDialog dialog(this);
+    dialog.setWindowTitle(tr("Add a Setting"));
+    dialog.setLabelText(tr("Name:"));
+    dialog.setOkButtonText(tr("&Add"));
+    dialog.setCancelButtonText(tr("Cancel"));
+    const QString name = dialog.exec() == QDialog::Accepted ? dialog.textValue().trimmed() : QString();
     if (name.isEmpty()
         || !apply(m_document.text().addSetting(section->entry, name, {}), tr("Add %1").arg(name)))
         return;
@@ -660,12 +670,16 @@ void EditorWindow::copySettings()
             profiles.push_back(section);
             titles << titleOf(section, m_document.text());
         }
-    bool isChosen = false;
     const QString title = titleOf(from, m_document.text());
-    const QString chosen = QInputDialog::getItem(
-        this, tr("Copy Settings"), tr("Copy those of “%1” to:").arg(title), titles, 0, false, &isChosen);
-    if (!isChosen)
+    QInputDialog dialog(this);
+    dialog.setWindowTitle(tr("Copy Settings"));
+    dialog.setLabelText(tr("Copy those of “%1” to:").arg(title));
+    dialog.setComboBoxItems(titles);
+    dialog.setOkButtonText(tr("&Copy"));
+    dialog.setCancelButtonText(tr("Cancel"));
+    if (dialog.exec() != QDialog::Accepted)
         return;
+    const QString chosen = dialog.textValue();
     const ShownSection &to = profiles[static_cast<std::size_t>(titles.indexOf(chosen))];
     ConfigurationText text = m_document.text();
     for (const KnownSetting *setting : settingsOf(to.key)) {

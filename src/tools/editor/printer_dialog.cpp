@@ -25,10 +25,9 @@ PrinterDialog::PrinterDialog(const QStringList &taken, QWidget *parent)
         m_model->addItem(model.title, QString(model.name));
     m_output->setObjectName(u"output"_s);
 
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    m_add = buttons->button(QDialogButtonBox::Ok);
-    m_add->setText(tr("&Add"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
+    auto *buttons = new QDialogButtonBox;
+    m_add = buttons->addButton(tr("&Add"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_name, &QLineEdit::textChanged, this, &PrinterDialog::updateButtons);

@@ -155,7 +155,7 @@ QVariant SettingsModel::data(const QModelIndex &index, int role) const
     }
     case Qt::ForegroundRole:
         if (shown.entry == absent)
-            return QApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return QApplication::palette().brush(QPalette::PlaceholderText);
         return {};
     case Qt::FontRole:
         if (shown.entry == absent) {

@@ -48,10 +48,9 @@ StarterDialog::StarterDialog(const QString &missingFile, QWidget *parent)
         m_language->addItem(QLocale(language).nativeLanguageName(),
                             language == "en"_L1 ? QString() : "/tavolux_"_L1 + language);
 
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    m_create = buttons->button(QDialogButtonBox::Ok);
-    m_create->setText(tr("&Create"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
+    auto *buttons = new QDialogButtonBox;
+    m_create = buttons->addButton(tr("&Create"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
