@@ -154,9 +154,17 @@ const std::vector<Finding> &ConfigurationDocument::findings()
     if (!m_findings) {
         m_checkTimer.stop();
         m_findings = checkConfiguration(m_text.text(), m_text.kind());
+        m_findingsByPlace.clear();
+        for (const Finding &finding : *m_findings)
+            m_findingsByPlace[{finding.key, finding.line}] << finding.text;
         Q_EMIT findingsChanged();
     }
     return *m_findings;
+}
+
+QStringList ConfigurationDocument::findingsAt(const QString &key, int line) const
+{
+    return m_findingsByPlace.value({key, line});
 }
 
 QStringList ConfigurationDocument::findingTexts()

@@ -5,6 +5,7 @@
 #include "tx_configuration.h"
 #include "write_file.h"
 
+#include <QHash>
 #include <QObject>
 #include <QTimer>
 #include <QUndoStack>
@@ -63,6 +64,10 @@ public:
     /* What there is to find in the text as it stands. */
     const std::vector<Finding> &findings();
 
+    /* The texts of those about a key, in a line, as they were found last: maybe not of the text as it stands
+     * until findingsChanged() comes. */
+    QStringList findingsAt(const QString &key, int line) const;
+
     /* The findings that were not there when it was read or saved last. */
     QStringList newFindings();
 
@@ -90,7 +95,8 @@ private:
     std::optional<QByteArray> m_onDisk = QByteArray(); // none: no file yet, or it is not known what is in it
     QUndoStack m_undoStack;
     qsizetype m_changedAt = 0;
-    std::optional<std::vector<Finding>> m_findings;
+    std::optional<std::vector<Finding>> m_findings; // none: the text is another since
+    QHash<std::pair<QString, int>, QStringList> m_findingsByPlace; // by key and line
     QStringList m_accepted; // texts of findings
     QTimer m_checkTimer;
 };

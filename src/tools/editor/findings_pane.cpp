@@ -17,6 +17,7 @@ FindingsPane::FindingsPane(ConfigurationDocument &document)
     toggleViewAction()->setText(tr("&Findings"));
     m_list->setAccessibleName(tr("Findings"));
     m_list->setWordWrap(true);
+    m_list->setLayoutMode(QListWidget::Batched); // thousands take a while
     m_list->setTextElideMode(Qt::ElideNone);
     m_list->setVerticalScrollMode(QListWidget::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

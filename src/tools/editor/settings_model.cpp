@@ -109,13 +109,8 @@ QString SettingsModel::refusal(const ShownSetting &setting, const QString &value
 
 QStringList SettingsModel::findings(const ShownSetting &setting) const
 {
-    const QString key = keyOf(*m_section, setting);
     const int line = setting.entry == absent ? 0 : m_document.text().entry(setting.entry).line;
-    QStringList texts;
-    for (const Finding &finding : m_document.findings())
-        if (finding.key == key && finding.line == line)
-            texts << finding.text;
-    return texts;
+    return m_document.findingsAt(keyOf(*m_section, setting), line);
 }
 
 int SettingsModel::rowCount(const QModelIndex &parent) const
