@@ -1,10 +1,11 @@
 /*
- * The "cfg" kind: reader, lookup, both writers and the printed tree. The input is a configuration file and a
- * key to look up.
+ * The "cfg" kind: reader, lookup, changes in place, both writers and the printed tree. The input is a
+ * configuration file and a key to look up, which is also the value that settings are changed to.
  */
 #include "config.h"
 #include "fuzzing.h"
 #include "temporary_home.h"
+#include "text_changes.h"
 
 #include <QRegularExpression>
 
@@ -28,6 +29,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     const FuzzInput input(data, size);
     const QString file = home.writeFile(u"tavolux.conf"_s, input.file);
     const QString key = QString::fromLatin1(input.companion);
+
+    requireExactChanges(input.file, u"cfg"_s, key);
 
     const Config original(file, u"cfg"_s);
     original.printConfigTree();

@@ -234,6 +234,22 @@ std::optional<int> ConfigurationText::sectionOf(const QString &key) const
     return section;
 }
 
+bool ConfigurationText::isName(const QString &name) const
+{
+    if (isXml())
+        return isAsciiName(name);
+    return !name.isEmpty() && name == name.trimmed() && !isBeyondLatin1(name)
+        && std::ranges::none_of(name, [](QChar c) { return c < u' ' || u":={};\""_s.contains(c); });
+}
+
+// Which of the names could not be looked up; empty when all could.
+QString ConfigurationText::nameFault(const QStringList &names) const
+{
+    const auto wrong = std::ranges::find_if(
+        names, [this](const QString &name) { return !isName(name) || name.contains(u'.'); });
+    return wrong == names.end() ? QString() : u"%1 is no name that could be looked up"_s.arg(quoted(*wrong));
+}
+
 // Why a setting would be read back differently; empty when it would not.
 QString ConfigurationText::fitness(const std::vector<NamedValue> &settings) const
 {
@@ -418,7 +434,8 @@ TextChange ConfigurationText::setValue(int setting, const QString &value) const
 
 TextChange ConfigurationText::addSetting(int section, const QString &name, const QString &value) const
 {
-    if (const QString fault = firstOf(roomFault(section, 0), fitness({{name, value}})); !fault.isEmpty())
+    const QString unfit = firstOf(nameFault({name}), fitness({{name, value}}));
+    if (const QString fault = firstOf(roomFault(section, 0), unfit); !fault.isEmpty())
         return refusal(fault);
     if (!isXml())
         return addStatement(section, Entry::Kind::setting, [&](auto &&) { return written(name, value); });
@@ -437,7 +454,11 @@ TextChange ConfigurationText::addSetting(int section, const QString &name, const
 TextChange ConfigurationText::addSection(int section, const QStringList &path,
                                          const std::vector<NamedValue> &settings) const
 {
-    if (const QString fault = firstOf(roomFault(section, path.size()), fitness(settings)); !fault.isEmpty())
+    QStringList names = path;
+    for (const NamedValue &setting : settings)
+        names << setting.first;
+    const QString unfit = firstOf(nameFault(names), fitness(settings));
+    if (const QString fault = firstOf(roomFault(section, path.size()), unfit); !fault.isEmpty())
         return refusal(fault);
     if (isXml())
         return addElement(section, path, settings);
@@ -495,12 +516,7 @@ TextChange ConfigurationText::set(const QString &key, const QString &value) cons
         return setValue(*setting, value);
 
     QStringList names = key.split(u'.');
-    const auto isName = [this](const QString &name) {
-        return isXml() ? isAsciiName(name)
-                       : !name.isEmpty() && name == name.trimmed() && !isBeyondLatin1(name)
-                && std::ranges::none_of(name, [](QChar c) { return c < u' ' || u":={};\""_s.contains(c); });
-    };
-    if (names.size() < 2 || !std::ranges::all_of(names, isName))
+    if (names.size() < 2 || !nameFault(names).isEmpty())
         return refusal(u"%1 is no key that could be looked up"_s.arg(quoted(key)));
     if (const std::optional<int> first = firstSection(); first && entry(*first).name != names.front())
         return refusal(

@@ -90,7 +90,7 @@ public:
     TextChange setValue(int setting, const QString &value) const;
 
     /* Adds a setting at the end of a section, or a section with settings, laid out as their neighbours are. A
-     * path of several names is a section in a new section. */
+     * path of several names is a section in a new section. Refused is a name that could not be looked up. */
     TextChange addSetting(int section, const QString &name, const QString &value) const;
     TextChange addSection(int section, const QStringList &path,
                           const std::vector<NamedValue> &settings) const;
@@ -109,6 +109,8 @@ private:
     std::optional<int> firstSection() const;
     std::optional<int> settingBelow(int section, const QStringList &components) const;
 
+    bool isName(const QString &name) const;
+    QString nameFault(const QStringList &names) const;
     QString fitness(const std::vector<NamedValue> &settings) const;
     QByteArray written(const QString &name, const QString &value) const;
     QByteArray written(const QStringList &path, const std::vector<NamedValue> &settings,

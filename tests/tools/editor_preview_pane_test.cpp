@@ -1,63 +1,53 @@
-#include "dialogs.h"
 #include "editor_window.h"
 #include "preview_pane.h"
 #include "printout_view.h"
-#include "shown_tree.h"
+#include "scripted_dialogs.h"
 #include "temporary_home.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSettings>
 #include <QTest>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class NoDialogs : public Dialogs
-{
-public:
-    QMessageBox::StandardButton ask(const QString &, const QStringList &,
-                                    QMessageBox::StandardButtons) override
-    {
-        return QMessageBox::Discard;
-    }
-    void tell(const QString &message, const QStringList &) override { qFatal("%s", qPrintable(message)); }
-};
-
 /* An editor with a configuration in a folder of its own. */
 struct OpenedEditor
 {
     const TemporaryHome home;
-    NoDialogs dialogs;
-    EditorWindow window;
+    ScriptedDialogs dialogs;
+    EditorWindow window{dialogs};
     PreviewPane &pane = *window.findChild<PreviewPane *>();
 
     explicit OpenedEditor(
         const QByteArray &configuration =
             "tavolux : { receiptdoc : { paperWidth = 40; printTable = true; printDate = false; };"
             " solddoc : { paperWidth = 30; }; };")
-        : window(home.writeFile(u"tavolux.conf"_s, configuration), u"cfg"_s, dialogs)
     {
         window.show();
-        window.open();
+        window.open(home.writeFile(u"tavolux.conf"_s, configuration));
         if (!QTest::qWaitForWindowExposed(&window))
             qFatal("the window does not show");
+        select(u"tavolux.receiptdoc.style"_s);
     }
 
-    QTreeWidgetItem *item(const QString &key) const
+    void select(const QString &key) const
     {
-        for (QTreeWidgetItemIterator item(window.findChild<QTreeWidget *>()); *item; ++item)
-            if (keyOf(*item) == key)
-                return *item;
-        qFatal("there is no such key");
+        auto *const field = window.findChild<QLineEdit *>(u"find"_s);
+        field->setText(key);
+        field->clear();
     }
-
-    void select(const QString &key) const { window.findChild<QTreeWidget *>()->setCurrentItem(item(key)); }
-    void edit(const QString &key, const QString &value) const { valueItem(item(key))->setText(0, value); }
+    void edit(const QString &key, const QString &value) const
+    {
+        select(key);
+        auto *const settings = window.findChild<QTreeView *>(u"settings"_s);
+        settings->model()->setData(settings->currentIndex(), value);
+    }
 
     const PrintoutPainter &painter() const { return *pane.findChild<PrintoutView *>()->painter(); }
     int columns() const { return painter().printout().columns; }
@@ -120,7 +110,7 @@ void EditorPreviewPaneTest::followsTheProfile()
     editor.select(u"tavolux.solddoc.paperWidth"_s);
     QCOMPARE(documents->currentText(), u"sold-items.xml"_s);
     QCOMPARE(editor.columns(), 30);
-    editor.select(u"tavolux"_s); // of no profile
+    editor.select(u"tavolux.language.file"_s); // of no profile
     QCOMPARE(editor.columns(), 30);
 }
 
@@ -131,7 +121,7 @@ void EditorPreviewPaneTest::marksTheLinesOfASetting_data()
     QTest::newRow("a switch") << u"tavolux.receiptdoc.printTable"_s << u" Table: 12"_s;
     QTest::newRow("a width") << u"tavolux.receiptdoc.paperWidth"_s << QString(40, u'=');
     QTest::newRow("a switch that prints nothing") << u"tavolux.receiptdoc.printDate"_s << QString();
-    QTest::newRow("a section") << u"tavolux.receiptdoc"_s << QString();
+    QTest::newRow("nothing that is printed") << u"tavolux.receiptdoc.openCashDrawer"_s << QString();
 }
 
 void EditorPreviewPaneTest::marksTheLinesOfASetting()
@@ -139,6 +129,7 @@ void EditorPreviewPaneTest::marksTheLinesOfASetting()
     QFETCH(const QString, key);
     QFETCH(const QString, marked);
     const OpenedEditor editor;
+    editor.select(u"tavolux.receiptdoc.style"_s);
     QCOMPARE(editor.markedLine(), QString());
     editor.select(key);
     QCOMPARE(editor.markedLine(), marked);
@@ -182,12 +173,14 @@ void EditorPreviewPaneTest::readsAgain()
 void EditorPreviewPaneTest::keepsWhetherItIsShown()
 {
     {
-        const OpenedEditor editor;
+        OpenedEditor editor;
         QVERIFY(editor.pane.isVisible());
         editor.pane.toggleViewAction()->trigger();
         QVERIFY(!editor.pane.isVisible());
         editor.edit(u"tavolux.receiptdoc.paperWidth"_s, u"42"_s);
         QCOMPARE(editor.columns(), 40); // nobody sees it
+        editor.dialogs.answers << QMessageBox::Discard; // of the changes
+        QVERIFY(editor.window.close());
     }
     const OpenedEditor next;
     QVERIFY(!next.pane.isVisible());
@@ -199,13 +192,12 @@ void EditorPreviewPaneTest::keepsWhetherItIsShown()
 void EditorPreviewPaneTest::readsConfigurationsOfTheOtherKind()
 {
     const TemporaryHome home;
-    NoDialogs dialogs;
-    EditorWindow window(
-        home.writeFile(u"tavolux.xml"_s, "<tavolux><receiptdoc paperWidth=\"37\"/></tavolux>"), u"xml"_s,
-        dialogs);
+    ScriptedDialogs dialogs;
+    EditorWindow window(dialogs);
     window.show();
-    window.open();
+    window.open(home.writeFile(u"tavolux.xml"_s, "<tavolux><receiptdoc paperWidth=\"37\"/></tavolux>"));
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.findChild<QLineEdit *>(u"find"_s)->setText(u"receiptdoc.paperWidth"_s);
     QCOMPARE(window.findChild<PrintoutView *>()->painter()->printout().columns, 37);
 }
 

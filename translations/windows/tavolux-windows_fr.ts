@@ -2,6 +2,372 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>EditorWindow</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Chercher :</translation>
+    </message>
+    <message>
+        <source>key, value or words of an explanation</source>
+        <translation>clé, valeur ou mots d’une explication</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>Sections</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation>&amp;Nouveau…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Ouvrir un fichier &amp;récent</translation>
+    </message>
+    <message>
+        <source>R&amp;eload</source>
+        <translation>Re&amp;lire</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Annuler : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Value</source>
+        <translation>&amp;Modifier la valeur</translation>
+    </message>
+    <message>
+        <source>Set Back to &amp;Default</source>
+        <translation>Revenir à la valeur par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Key</source>
+        <translation>Copier la &amp;clé</translation>
+    </message>
+    <message>
+        <source>Add &amp;Setting…</source>
+        <translation>A&amp;jouter un réglage…</translation>
+    </message>
+    <message>
+        <source>Remove Se&amp;tting</source>
+        <translation>&amp;Supprimer le réglage</translation>
+    </message>
+    <message>
+        <source>Add &amp;Printer…</source>
+        <translation>Ajouter une &amp;imprimante…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Settings to…</source>
+        <translation>Co&amp;pier les réglages vers…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Section</source>
+        <translation>Supprimer la secti&amp;on</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>C&amp;hercher</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Chercher le sui&amp;vant</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>Chercher le précéden&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Contenu</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>Cannot read %1</source>
+        <translation>Impossible de lire %1</translation>
+    </message>
+    <message>
+        <source>There is no change to save.</source>
+        <translation>Il n’y a aucun changement à enregistrer.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Save over it?</source>
+        <translation>%1 a été modifié par un autre programme. L’écraser ?</translation>
+    </message>
+    <message>
+        <source>Something is wrong with the changes. Save all the same?</source>
+        <translation>Quelque chose ne va pas dans les changements. Enregistrer quand même ?</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>Impossible d’écrire %1</translation>
+    </message>
+    <message>
+        <source>The changes are still in this window.</source>
+        <translation>Les changements sont toujours dans cette fenêtre.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Enregistré.</translation>
+    </message>
+    <message>
+        <source>Saved, but %1.</source>
+        <translation>Enregistré, mais : %1.</translation>
+    </message>
+    <message>
+        <source>The new configuration is not saved. Save it?</source>
+        <translation>La nouvelle configuration n’est pas enregistrée. L’enregistrer ?</translation>
+    </message>
+    <message>
+        <source>The changes in %1 are not saved. Save them?</source>
+        <translation>Les changements de %1 ne sont pas enregistrés. Les enregistrer ?</translation>
+    </message>
+    <message>
+        <source>New configuration</source>
+        <translation>Nouvelle configuration</translation>
+    </message>
+    <message>
+        <source>Nothing reads this setting.</source>
+        <translation>Aucun programme ne lit ce réglage.</translation>
+    </message>
+    <message>
+        <source>This cannot be done</source>
+        <translation>Cela n’est pas possible</translation>
+    </message>
+    <message>
+        <source>Set Back %1</source>
+        <translation>rétablir %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>supprimer %1</translation>
+    </message>
+    <message>
+        <source>Add a Setting</source>
+        <translation>Ajouter un réglage</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>ajouter %1</translation>
+    </message>
+    <message>
+        <source>Copy Settings</source>
+        <translation>Copier les réglages</translation>
+    </message>
+    <message>
+        <source>Copy those of “%1” to:</source>
+        <translation>Copier ceux de « %1 » vers :</translation>
+    </message>
+    <message>
+        <source>Copy %1 to %2</source>
+        <translation>copier %1 vers %2</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Rien n’a été trouvé.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Tavolux Configuration %1
+
+Edits the configuration of tavolux-printer, which prints the documents of a restaurant.</source>
+        <translation>Configuration de Tavolux %1
+
+Modifie la configuration de tavolux-printer, qui imprime les documents d’un restaurant.</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsPane</name>
+    <message>
+        <source>&amp;Findings</source>
+        <translation>&amp;Défauts</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Défauts</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Nothing found wrong</source>
+        <translation>Aucun défaut trouvé</translation>
+    </message>
+    <message>
+        <source>Found wrong: %1</source>
+        <translation>Défauts : %1</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>The Configuration</source>
+        <translation>La configuration</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxes</name>
+    <message>
+        <source>… and %1 more.</source>
+        <translation>… et %1 autres.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Save</source>
+        <translation>&amp;Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Choose a File</source>
+        <translation>Choisir un fichier</translation>
+    </message>
+    <message>
+        <source>Choose a Folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Open a Configuration</source>
+        <translation>Ouvrir une configuration</translation>
+    </message>
+    <message>
+        <source>Configurations (*.conf *.xml);;All files (*)</source>
+        <translation>Configurations (*.conf *.xml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Save the Configuration</source>
+        <translation>Enregistrer la configuration</translation>
+    </message>
+</context>
+<context>
+    <name>Outline</name>
+    <message>
+        <source>Outside of any section</source>
+        <translation>En dehors de toute section</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, ligne %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 %4)</source>
+        <translation>%1 (de %2 à %3 %4)</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPane</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Aperçu</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>O&amp;pen…</source>
+        <translation>O&amp;uvrir…</translation>
+    </message>
+    <message>
+        <source>Open a Document</source>
+        <translation>Ouvrir un document</translation>
+    </message>
+    <message>
+        <source>Documents (*.xml *.tvx);;All files (*)</source>
+        <translation>Documents (*.xml *.tvx);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossible de lire %1 : %2</translation>
+    </message>
+    <message>
+        <source>No font of fixed width is installed: the package fonts-dejavu-core has one.</source>
+        <translation>Aucune police à chasse fixe n’est installée : le paquet fonts-dejavu-core en a une.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewRemarks</name>
     <message>
         <source>Incomplete: line %1, column %2: %3</source>
@@ -132,6 +498,37 @@
     </message>
 </context>
 <context>
+    <name>PrinterDialog</name>
+    <message>
+        <source>Add a Printer</source>
+        <translation>Ajouter une imprimante</translation>
+    </message>
+    <message>
+        <source>such as till or kitchen</source>
+        <translation>par exemple caisse ou cuisine</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Ajouter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Model:</source>
+        <translation>&amp;Modèle :</translation>
+    </message>
+    <message>
+        <source>&amp;Output:</source>
+        <translation>&amp;Sortie :</translation>
+    </message>
+</context>
+<context>
     <name>PrintoutFiles</name>
     <message>
         <source>the picture would be %1 dots high, more than %2; a PDF, an SVG or a text can hold this printout</source>
@@ -155,6 +552,286 @@
     <message>
         <source>Printout</source>
         <translation>Impression</translation>
+    </message>
+</context>
+<context>
+    <name>SectionsModel</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Imprimantes</translation>
+    </message>
+    <message>
+        <source>Other sections</source>
+        <translation>Autres sections</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>characters</source>
+        <translation>caractères</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>lignes</translation>
+    </message>
+    <message>
+        <source>The width of the column for quantities.</source>
+        <translation>La largeur de la colonne des quantités.</translation>
+    </message>
+    <message>
+        <source>The width of the column for prices, and for the amounts of a statement of account.</source>
+        <translation>La largeur de la colonne des prix et des montants d’un relevé de compte.</translation>
+    </message>
+    <message>
+        <source>The width of the column for totals.</source>
+        <translation>La largeur de la colonne des totaux.</translation>
+    </message>
+    <message>
+        <source>The length of a line; 0 stands for the printer&apos;s own, which is 34 for plain text.</source>
+        <translation>La longueur d’une ligne ; 0 signifie celle de l’imprimante, 34 pour du texte pur.</translation>
+    </message>
+    <message>
+        <source>The lines of a page, which no document uses.</source>
+        <translation>Les lignes d’une page, qu’aucun document n’utilise.</translation>
+    </message>
+    <message>
+        <source>A style, which no document uses.</source>
+        <translation>Un style, qu’aucun document n’utilise.</translation>
+    </message>
+    <message>
+        <source>Empty lines at the top, which the element geometry prints.</source>
+        <translation>Des lignes vides en haut, que l’élément geometry imprime.</translation>
+    </message>
+    <message>
+        <source>How much of an item&apos;s name a fiscal printer gets; 0 stands for the printer&apos;s own width.</source>
+        <translation>Combien du nom d’un article une imprimante fiscale reçoit ; 0 signifie la largeur de l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Whether the empty lines at the top are printed.</source>
+        <translation>Si les lignes vides du haut sont imprimées.</translation>
+    </message>
+    <message>
+        <source>Whether the lines of headers are printed; the printer&apos;s name always is.</source>
+        <translation>Si les lignes d’en-tête sont imprimées ; le nom de l’imprimante l’est toujours.</translation>
+    </message>
+    <message>
+        <source>Nothing: a logo is printed when the printer&apos;s section names one.</source>
+        <translation>Rien : un logo est imprimé quand la section de l’imprimante en nomme un.</translation>
+    </message>
+    <message>
+        <source>Whether the company&apos;s block is printed.</source>
+        <translation>Si le bloc de la société est imprimé.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the delivery address.</source>
+        <translation>Si le bloc du client contient l’adresse de livraison.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the billing address.</source>
+        <translation>Si le bloc du client contient l’adresse de facturation.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the telephone number.</source>
+        <translation>Si le bloc du client contient le numéro de téléphone.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s date is printed.</source>
+        <translation>Si la date de la commande est imprimée.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s time is printed.</source>
+        <translation>Si l’heure de la commande est imprimée.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s table is printed.</source>
+        <translation>Si la table de la commande est imprimée.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block is printed.</source>
+        <translation>Si le bloc du client est imprimé.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the licence number.</source>
+        <translation>Si le bloc du client contient le numéro de licence.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the fiscal code.</source>
+        <translation>Si le bloc du client contient le code fiscal.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s credit is printed.</source>
+        <translation>Si le crédit de la commande est imprimé.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s waiter is printed.</source>
+        <translation>Si le serveur de la commande est imprimé.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s note is printed.</source>
+        <translation>Si la note de la commande est imprimée.</translation>
+    </message>
+    <message>
+        <source>Whether the end of a document opens the drawer.</source>
+        <translation>Si la fin d’un document ouvre le tiroir-caisse.</translation>
+    </message>
+    <message>
+        <source>The folder of the translations.</source>
+        <translation>Le dossier des traductions.</translation>
+    </message>
+    <message>
+        <source>The translation to use, put right after the folder; / alone is the one of the user&apos;s locale.</source>
+        <translation>La traduction, mise juste après le dossier ; / seul est celle de la langue de l’utilisateur.</translation>
+    </message>
+    <message>
+        <source>The model of the printer, which says all that follows.</source>
+        <translation>Le modèle de l’imprimante, qui détermine tout ce qui suit.</translation>
+    </message>
+    <message>
+        <source>The outputs that this printer prints, separated by commas; * and ? stand for any characters and any one.</source>
+        <translation>Les sorties que cette imprimante imprime, séparées par des virgules ; * et ? remplacent des caractères quelconques et un seul.</translation>
+    </message>
+    <message>
+        <source>The length of a line of normal type.</source>
+        <translation>La longueur d’une ligne en écriture normale.</translation>
+    </message>
+    <message>
+        <source>The code pages to use, with the printer&apos;s numbers for them, the best first.</source>
+        <translation>Les pages de code à utiliser, avec leurs numéros dans l’imprimante, la meilleure d’abord.</translation>
+    </message>
+    <message>
+        <source>How the paper is cut at the end of a document.</source>
+        <translation>Comment le papier est coupé à la fin d’un document.</translation>
+    </message>
+    <message>
+        <source>Empty lines before the cut or the tear bar.</source>
+        <translation>Des lignes vides avant la coupe ou la barre de déchirement.</translation>
+    </message>
+    <message>
+        <source>The pin of the drawer&apos;s connector that gets the pulse.</source>
+        <translation>La broche du connecteur du tiroir-caisse qui reçoit l’impulsion.</translation>
+    </message>
+    <message>
+        <source>How long the drawer&apos;s pulse is on, and off at least, in milliseconds from 2 to 510.</source>
+        <translation>Combien de temps l’impulsion du tiroir-caisse dure, et au moins sa pause, en millisecondes de 2 à 510.</translation>
+    </message>
+    <message>
+        <source>The picture that the element logo prints: a PNG file, or stored:1 for one kept in the printer.</source>
+        <translation>L’image que l’élément logo imprime : un fichier PNG, ou stored:1 pour une image gardée dans l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Whether invoices are printed twice, for the guest and for the books.</source>
+        <translation>Si les factures sont imprimées deux fois, pour le client et pour les livres.</translation>
+    </message>
+    <message>
+        <source>Kitchen tickets</source>
+        <translation>Bons de cuisine</translation>
+    </message>
+    <message>
+        <source>Orders with prices</source>
+        <translation>Commandes avec prix</translation>
+    </message>
+    <message>
+        <source>Receipts</source>
+        <translation>Reçus</translation>
+    </message>
+    <message>
+        <source>Invoices</source>
+        <translation>Factures</translation>
+    </message>
+    <message>
+        <source>Fiscal documents</source>
+        <translation>Documents fiscaux</translation>
+    </message>
+    <message>
+        <source>Delivery orders</source>
+        <translation>Commandes à livrer</translation>
+    </message>
+    <message>
+        <source>Reports and statements of account</source>
+        <translation>Rapports et relevés de compte</translation>
+    </message>
+    <message>
+        <source>Sold items</source>
+        <translation>Articles vendus</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>%1 would be lost: the programs read the characters of Western Europe only.</source>
+        <translation>%1 serait perdu : les programmes ne lisent que les caractères d’Europe occidentale.</translation>
+    </message>
+    <message>
+        <source>A value cannot have the character %1, which would end it.</source>
+        <translation>Une valeur ne peut pas contenir le caractère %1, qui la terminerait.</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>changer %1</translation>
+    </message>
+</context>
+<context>
+    <name>StarterDialog</name>
+    <message>
+        <source>New Configuration</source>
+        <translation>Nouvelle configuration</translation>
+    </message>
+    <message>
+        <source>There is no configuration %1 yet.</source>
+        <translation>Il n’y a pas encore de configuration %1.</translation>
+    </message>
+    <message>
+        <source>This makes one to start from: every setting of every document, with values for your paper.</source>
+        <translation>Ceci en crée une pour commencer : chaque réglage de chaque document, avec des valeurs pour votre papier.</translation>
+    </message>
+    <message>
+        <source>none, or one of plain text</source>
+        <translation>aucune, ou une de texte pur</translation>
+    </message>
+    <message>
+        <source>that of the person at the machine</source>
+        <translation>celle de la personne devant la machine</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>&amp;Créer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Receipt &amp;printer:</source>
+        <translation>&amp;Imprimante de reçus :</translation>
+    </message>
+    <message>
+        <source>&amp;Output:</source>
+        <translation>&amp;Sortie :</translation>
+    </message>
+    <message>
+        <source>Characters in a &amp;line:</source>
+        <translation>Caractères par &amp;ligne :</translation>
+    </message>
+    <message>
+        <source>Language of the &amp;labels:</source>
+        <translation>Langue des &amp;textes :</translation>
     </message>
 </context>
 </TS>

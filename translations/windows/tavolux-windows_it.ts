@@ -2,6 +2,372 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it">
 <context>
+    <name>EditorWindow</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>Ce&amp;rca:</translation>
+    </message>
+    <message>
+        <source>key, value or words of an explanation</source>
+        <translation>chiave, valore o parole di una spiegazione</translation>
+    </message>
+    <message>
+        <source>Sections</source>
+        <translation>Sezioni</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation>&amp;Nuovo…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Apri…</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Apri &amp;recenti</translation>
+    </message>
+    <message>
+        <source>R&amp;eload</source>
+        <translation>Ri&amp;leggi</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Salva &amp;con nome…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Annulla: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Ripeti: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Value</source>
+        <translation>&amp;Modifica il valore</translation>
+    </message>
+    <message>
+        <source>Set Back to &amp;Default</source>
+        <translation>Riporta al valore pre&amp;definito</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Key</source>
+        <translation>Copia la c&amp;hiave</translation>
+    </message>
+    <message>
+        <source>Add &amp;Setting…</source>
+        <translation>A&amp;ggiungi un’impostazione…</translation>
+    </message>
+    <message>
+        <source>Remove Se&amp;tting</source>
+        <translation>&amp;Togli l’impostazione</translation>
+    </message>
+    <message>
+        <source>Add &amp;Printer…</source>
+        <translation>Aggiungi una sta&amp;mpante…</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Settings to…</source>
+        <translation>&amp;Copia le impostazioni in…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Section</source>
+        <translation>Togli la &amp;sezione</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>C&amp;erca</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Cerca il &amp;successivo</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>Cerca il pre&amp;cedente</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Contenuto</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Informazioni</translation>
+    </message>
+    <message>
+        <source>Cannot read %1</source>
+        <translation>Impossibile leggere %1</translation>
+    </message>
+    <message>
+        <source>There is no change to save.</source>
+        <translation>Non c’è nessuna modifica da salvare.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program. Save over it?</source>
+        <translation>%1 è stato modificato da un altro programma. Sovrascriverlo?</translation>
+    </message>
+    <message>
+        <source>Something is wrong with the changes. Save all the same?</source>
+        <translation>C’è qualcosa che non va nelle modifiche. Salvare lo stesso?</translation>
+    </message>
+    <message>
+        <source>Cannot write %1</source>
+        <translation>Impossibile scrivere %1</translation>
+    </message>
+    <message>
+        <source>The changes are still in this window.</source>
+        <translation>Le modifiche sono ancora in questa finestra.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Salvato.</translation>
+    </message>
+    <message>
+        <source>Saved, but %1.</source>
+        <translation>Salvato, ma: %1.</translation>
+    </message>
+    <message>
+        <source>The new configuration is not saved. Save it?</source>
+        <translation>La nuova configurazione non è salvata. Salvarla?</translation>
+    </message>
+    <message>
+        <source>The changes in %1 are not saved. Save them?</source>
+        <translation>Le modifiche in %1 non sono salvate. Salvarle?</translation>
+    </message>
+    <message>
+        <source>New configuration</source>
+        <translation>Nuova configurazione</translation>
+    </message>
+    <message>
+        <source>Nothing reads this setting.</source>
+        <translation>Nessun programma legge questa impostazione.</translation>
+    </message>
+    <message>
+        <source>This cannot be done</source>
+        <translation>Questo non è possibile</translation>
+    </message>
+    <message>
+        <source>Set Back %1</source>
+        <translation>ripristina %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>togli %1</translation>
+    </message>
+    <message>
+        <source>Add a Setting</source>
+        <translation>Aggiungi un’impostazione</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>aggiungi %1</translation>
+    </message>
+    <message>
+        <source>Copy Settings</source>
+        <translation>Copia le impostazioni</translation>
+    </message>
+    <message>
+        <source>Copy those of “%1” to:</source>
+        <translation>Copia quelle di «%1» in:</translation>
+    </message>
+    <message>
+        <source>Copy %1 to %2</source>
+        <translation>copia %1 in %2</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Non è stato trovato nulla.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Tavolux Configuration %1
+
+Edits the configuration of tavolux-printer, which prints the documents of a restaurant.</source>
+        <translation>Configurazione di Tavolux %1
+
+Modifica la configurazione di tavolux-printer, che stampa i documenti di un ristorante.</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+</context>
+<context>
+    <name>FindingsPane</name>
+    <message>
+        <source>&amp;Findings</source>
+        <translation>&amp;Difetti</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Difetti</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Riga %1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing found wrong</source>
+        <translation>Nessun difetto trovato</translation>
+    </message>
+    <message>
+        <source>Found wrong: %1</source>
+        <translation>Difetti: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>The Configuration</source>
+        <translation>La configurazione</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxes</name>
+    <message>
+        <source>… and %1 more.</source>
+        <translation>… e altri %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>&amp;Do Not Save</source>
+        <translation>&amp;Non salvare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Choose a File</source>
+        <translation>Scegli un file</translation>
+    </message>
+    <message>
+        <source>Choose a Folder</source>
+        <translation>Scegli una cartella</translation>
+    </message>
+    <message>
+        <source>Open a Configuration</source>
+        <translation>Apri una configurazione</translation>
+    </message>
+    <message>
+        <source>Configurations (*.conf *.xml);;All files (*)</source>
+        <translation>Configurazioni (*.conf *.xml);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Save the Configuration</source>
+        <translation>Salva la configurazione</translation>
+    </message>
+</context>
+<context>
+    <name>Outline</name>
+    <message>
+        <source>Outside of any section</source>
+        <translation>Fuori da ogni sezione</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, riga %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2 to %3 %4)</source>
+        <translation>%1 (da %2 a %3 %4)</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewPane</name>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Anteprima</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>O&amp;pen…</source>
+        <translation>A&amp;pri…</translation>
+    </message>
+    <message>
+        <source>Open a Document</source>
+        <translation>Apri un documento</translation>
+    </message>
+    <message>
+        <source>Documents (*.xml *.tvx);;All files (*)</source>
+        <translation>Documenti (*.xml *.tvx);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>No font of fixed width is installed: the package fonts-dejavu-core has one.</source>
+        <translation>Non è installato nessun carattere a larghezza fissa: il pacchetto fonts-dejavu-core ne ha uno.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewRemarks</name>
     <message>
         <source>Incomplete: line %1, column %2: %3</source>
@@ -132,6 +498,37 @@
     </message>
 </context>
 <context>
+    <name>PrinterDialog</name>
+    <message>
+        <source>Add a Printer</source>
+        <translation>Aggiungi una stampante</translation>
+    </message>
+    <message>
+        <source>such as till or kitchen</source>
+        <translation>per esempio cassa o cucina</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nome:</translation>
+    </message>
+    <message>
+        <source>&amp;Model:</source>
+        <translation>&amp;Modello:</translation>
+    </message>
+    <message>
+        <source>&amp;Output:</source>
+        <translation>&amp;Uscita:</translation>
+    </message>
+</context>
+<context>
     <name>PrintoutFiles</name>
     <message>
         <source>the picture would be %1 dots high, more than %2; a PDF, an SVG or a text can hold this printout</source>
@@ -155,6 +552,286 @@
     <message>
         <source>Printout</source>
         <translation>Stampa</translation>
+    </message>
+</context>
+<context>
+    <name>SectionsModel</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Stampanti</translation>
+    </message>
+    <message>
+        <source>Other sections</source>
+        <translation>Altre sezioni</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>characters</source>
+        <translation>caratteri</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>righe</translation>
+    </message>
+    <message>
+        <source>The width of the column for quantities.</source>
+        <translation>La larghezza della colonna delle quantità.</translation>
+    </message>
+    <message>
+        <source>The width of the column for prices, and for the amounts of a statement of account.</source>
+        <translation>La larghezza della colonna dei prezzi e degli importi di un estratto conto.</translation>
+    </message>
+    <message>
+        <source>The width of the column for totals.</source>
+        <translation>La larghezza della colonna dei totali.</translation>
+    </message>
+    <message>
+        <source>The length of a line; 0 stands for the printer&apos;s own, which is 34 for plain text.</source>
+        <translation>La lunghezza di una riga; 0 sta per quella della stampante, che per il testo puro è 34.</translation>
+    </message>
+    <message>
+        <source>The lines of a page, which no document uses.</source>
+        <translation>Le righe di una pagina, che nessun documento usa.</translation>
+    </message>
+    <message>
+        <source>A style, which no document uses.</source>
+        <translation>Uno stile, che nessun documento usa.</translation>
+    </message>
+    <message>
+        <source>Empty lines at the top, which the element geometry prints.</source>
+        <translation>Righe vuote in alto, che l’elemento geometry stampa.</translation>
+    </message>
+    <message>
+        <source>How much of an item&apos;s name a fiscal printer gets; 0 stands for the printer&apos;s own width.</source>
+        <translation>Quanto del nome di un articolo riceve una stampante fiscale; 0 sta per la larghezza della stampante.</translation>
+    </message>
+    <message>
+        <source>Whether the empty lines at the top are printed.</source>
+        <translation>Se si stampano le righe vuote in alto.</translation>
+    </message>
+    <message>
+        <source>Whether the lines of headers are printed; the printer&apos;s name always is.</source>
+        <translation>Se si stampano le righe di intestazione; il nome della stampante sempre.</translation>
+    </message>
+    <message>
+        <source>Nothing: a logo is printed when the printer&apos;s section names one.</source>
+        <translation>Niente: un logo si stampa quando la sezione della stampante ne indica uno.</translation>
+    </message>
+    <message>
+        <source>Whether the company&apos;s block is printed.</source>
+        <translation>Se si stampa il blocco della ditta.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the delivery address.</source>
+        <translation>Se il blocco del cliente ha l’indirizzo di consegna.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the billing address.</source>
+        <translation>Se il blocco del cliente ha l’indirizzo di fatturazione.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the telephone number.</source>
+        <translation>Se il blocco del cliente ha il numero di telefono.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s date is printed.</source>
+        <translation>Se si stampa la data dell’ordine.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s time is printed.</source>
+        <translation>Se si stampa l’ora dell’ordine.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s table is printed.</source>
+        <translation>Se si stampa il tavolo dell’ordine.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block is printed.</source>
+        <translation>Se si stampa il blocco del cliente.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the licence number.</source>
+        <translation>Se il blocco del cliente ha la partita IVA.</translation>
+    </message>
+    <message>
+        <source>Whether the customer&apos;s block has the fiscal code.</source>
+        <translation>Se il blocco del cliente ha il codice fiscale.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s credit is printed.</source>
+        <translation>Se si stampa il credito dell’ordine.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s waiter is printed.</source>
+        <translation>Se si stampa il cameriere dell’ordine.</translation>
+    </message>
+    <message>
+        <source>Whether the order&apos;s note is printed.</source>
+        <translation>Se si stampa la nota dell’ordine.</translation>
+    </message>
+    <message>
+        <source>Whether the end of a document opens the drawer.</source>
+        <translation>Se la fine di un documento apre il cassetto.</translation>
+    </message>
+    <message>
+        <source>The folder of the translations.</source>
+        <translation>La cartella delle traduzioni.</translation>
+    </message>
+    <message>
+        <source>The translation to use, put right after the folder; / alone is the one of the user&apos;s locale.</source>
+        <translation>La traduzione, messa subito dopo la cartella; / da sola è quella della lingua dell’utente.</translation>
+    </message>
+    <message>
+        <source>The model of the printer, which says all that follows.</source>
+        <translation>Il modello della stampante, che dice tutto ciò che segue.</translation>
+    </message>
+    <message>
+        <source>The outputs that this printer prints, separated by commas; * and ? stand for any characters and any one.</source>
+        <translation>Le uscite che questa stampante stampa, separate da virgole; * e ? stanno per caratteri qualsiasi e per uno qualsiasi.</translation>
+    </message>
+    <message>
+        <source>The length of a line of normal type.</source>
+        <translation>La lunghezza di una riga di carattere normale.</translation>
+    </message>
+    <message>
+        <source>The code pages to use, with the printer&apos;s numbers for them, the best first.</source>
+        <translation>Le code page da usare, con i loro numeri nella stampante, la migliore per prima.</translation>
+    </message>
+    <message>
+        <source>How the paper is cut at the end of a document.</source>
+        <translation>Come si taglia la carta alla fine di un documento.</translation>
+    </message>
+    <message>
+        <source>Empty lines before the cut or the tear bar.</source>
+        <translation>Righe vuote prima del taglio o della barra di strappo.</translation>
+    </message>
+    <message>
+        <source>The pin of the drawer&apos;s connector that gets the pulse.</source>
+        <translation>Il pin del connettore del cassetto che riceve l’impulso.</translation>
+    </message>
+    <message>
+        <source>How long the drawer&apos;s pulse is on, and off at least, in milliseconds from 2 to 510.</source>
+        <translation>Quanto dura l’impulso del cassetto e almeno la sua pausa, in millisecondi da 2 a 510.</translation>
+    </message>
+    <message>
+        <source>The picture that the element logo prints: a PNG file, or stored:1 for one kept in the printer.</source>
+        <translation>L’immagine che l’elemento logo stampa: un file PNG, o stored:1 per una tenuta nella stampante.</translation>
+    </message>
+    <message>
+        <source>Whether invoices are printed twice, for the guest and for the books.</source>
+        <translation>Se le fatture si stampano due volte, per il cliente e per i libri contabili.</translation>
+    </message>
+    <message>
+        <source>Kitchen tickets</source>
+        <translation>Comande per la cucina</translation>
+    </message>
+    <message>
+        <source>Orders with prices</source>
+        <translation>Ordini con prezzi</translation>
+    </message>
+    <message>
+        <source>Receipts</source>
+        <translation>Ricevute</translation>
+    </message>
+    <message>
+        <source>Invoices</source>
+        <translation>Fatture</translation>
+    </message>
+    <message>
+        <source>Fiscal documents</source>
+        <translation>Documenti fiscali</translation>
+    </message>
+    <message>
+        <source>Delivery orders</source>
+        <translation>Ordini a domicilio</translation>
+    </message>
+    <message>
+        <source>Reports and statements of account</source>
+        <translation>Resoconti ed estratti conto</translation>
+    </message>
+    <message>
+        <source>Sold items</source>
+        <translation>Articoli venduti</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsModel</name>
+    <message>
+        <source>%1 would be lost: the programs read the characters of Western Europe only.</source>
+        <translation>%1 andrebbe perso: i programmi leggono solo i caratteri dell’Europa occidentale.</translation>
+    </message>
+    <message>
+        <source>A value cannot have the character %1, which would end it.</source>
+        <translation>Un valore non può avere il carattere %1, che lo terminerebbe.</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>cambia %1</translation>
+    </message>
+</context>
+<context>
+    <name>StarterDialog</name>
+    <message>
+        <source>New Configuration</source>
+        <translation>Nuova configurazione</translation>
+    </message>
+    <message>
+        <source>There is no configuration %1 yet.</source>
+        <translation>Non c’è ancora nessuna configurazione %1.</translation>
+    </message>
+    <message>
+        <source>This makes one to start from: every setting of every document, with values for your paper.</source>
+        <translation>Questo ne crea una per cominciare: ogni impostazione di ogni documento, con valori per la vostra carta.</translation>
+    </message>
+    <message>
+        <source>none, or one of plain text</source>
+        <translation>nessuna, o una di testo puro</translation>
+    </message>
+    <message>
+        <source>that of the person at the machine</source>
+        <translation>quella della persona al computer</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>&amp;Crea</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Receipt &amp;printer:</source>
+        <translation>Stampante di &amp;ricevute:</translation>
+    </message>
+    <message>
+        <source>&amp;Output:</source>
+        <translation>&amp;Uscita:</translation>
+    </message>
+    <message>
+        <source>Characters in a &amp;line:</source>
+        <translation>Caratteri per &amp;riga:</translation>
+    </message>
+    <message>
+        <source>Language of the &amp;labels:</source>
+        <translation>Lingua delle &amp;etichette:</translation>
     </message>
 </context>
 </TS>

@@ -86,7 +86,7 @@ QByteArray starterConfiguration(int paperWidth, const std::optional<StarterPrint
     };
 
     text += "tavolux : {\n";
-    // Deliberate: before all else. The editor saves the sections of any other place below the first section.
+    // Before all else, where whoever looks for a printer sees it.
     if (printer)
         text += "    printers : {\n        till : { model = "
             + QByteArray(printer->model.data(), printer->model.size()) + "; output = \"" + printer->output

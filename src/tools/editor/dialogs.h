@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QStringList>
 
@@ -19,13 +20,26 @@ public:
 
     /* Tells what went wrong. */
     virtual void tell(const QString &message, const QStringList &details) = 0;
+
+    /* Have a file or a folder chosen, beginning at one: of the machine, that is there; a configuration to
+     * open; the name of one to save. Empty when none is chosen. */
+    virtual QString chooseFile(const QString &begin) = 0;
+    virtual QString chooseFolder(const QString &begin) = 0;
+    virtual QString chooseConfiguration(const QString &begin) = 0;
+    virtual QString chooseNameToSave(const QString &begin) = 0;
 };
 
-/* Message boxes above the active window, each waiting for its answer. */
+/* Boxes above the active window, each waiting for its answer. */
 class MessageBoxes : public Dialogs
 {
+    Q_DECLARE_TR_FUNCTIONS(MessageBoxes)
+
 public:
     QMessageBox::StandardButton ask(const QString &question, const QStringList &details,
                                     QMessageBox::StandardButtons buttons) override;
     void tell(const QString &message, const QStringList &details) override;
+    QString chooseFile(const QString &begin) override;
+    QString chooseFolder(const QString &begin) override;
+    QString chooseConfiguration(const QString &begin) override;
+    QString chooseNameToSave(const QString &begin) override;
 };

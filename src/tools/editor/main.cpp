@@ -1,11 +1,15 @@
 #include "dialogs.h"
 #include "editor_window.h"
 #include "file_name.h"
+#include "interface_language.h"
 #include "tx_configuration.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 #include <csignal>
 #include <cstdlib>
@@ -65,13 +69,14 @@ int main(int argc, char *argv[])
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        u"Shows a configuration as a tree, whose values can be edited and saved."_s);
+        u"Shows a configuration in a window, explains its settings and changes them."_s);
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption fileOption(
         u"file"_s, u"The configuration to edit, the user's own unless given."_s, u"FILE"_s);
-    const QCommandLineOption typeOption(u"type"_s, u"The kind of the file: cfg (unless given) or xml."_s,
-                                        u"cfg|xml"_s, u"cfg"_s);
+    const QCommandLineOption typeOption(
+        u"type"_s, u"The kind of the file, cfg or xml, which its content tells unless given."_s,
+        u"cfg|xml"_s);
     parser.addOptions({fileOption, typeOption});
     parser.addPositionalArgument(u"FILE"_s, u"The same as --file FILE."_s, u"[FILE]"_s);
     parser.process(commandLineArguments(argc, argv));
@@ -83,16 +88,24 @@ int main(int argc, char *argv[])
     if (file.isEmpty())
         return fail(u"the name of the configuration is empty"_s);
     const QString type = parser.value(typeOption);
-    if (type != "cfg"_L1 && type != "xml"_L1)
+    if (parser.isSet(typeOption) && type != "cfg"_L1 && type != "xml"_L1)
         return fail(u"unknown type '%1': it is cfg or xml"_s.arg(type));
+
+    QTranslator toolkitTranslation; // of its own dialogs, where it is installed
+    if (toolkitTranslation.load(QLocale(), u"qtbase"_s, u"_"_s,
+                                QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitTranslation);
+    QTranslator translation;
+    if (loadInterface(translation))
+        QCoreApplication::installTranslator(&translation);
 
     QGuiApplication::setApplicationDisplayName(u"Tavolux Configuration"_s);
     QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
     QGuiApplication::setWindowIcon(QIcon::fromTheme(QCoreApplication::applicationName()));
 
     MessageBoxes dialogs;
-    EditorWindow window(file, type, dialogs);
+    EditorWindow window(dialogs);
     window.show();
-    window.open();
+    window.open(file, type);
     return QApplication::exec();
 }

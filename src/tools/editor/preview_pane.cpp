@@ -1,7 +1,9 @@
 #include "preview_pane.h"
 
+#include "configuration_document.h"
+#include "known_settings.h"
+#include "printer_settings.h"
 #include "printout_view.h"
-#include "shown_tree.h"
 #include "tx_configuration.h"
 
 #include <QBuffer>
@@ -11,7 +13,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -43,22 +44,6 @@ constexpr ExamplesOfProfile examples[] = {
 QString ownDocumentKey(const QString &profile)
 {
     return "preview/documents/"_L1 + profile;
-}
-
-// What the file that is written from the tree says: what a print would read.
-void readTree(TXConfiguration &configuration, const QTreeWidget &tree, const QString &type)
-{
-    libconfig::Config store; // of no kind, so it takes the tree without writing
-    store.loadListView(&tree);
-    configuration.readText(type == "xml"_L1 ? store.xmlText() : store.cfgText(), type);
-}
-
-QTreeWidgetItem *counterpart(const QTreeWidget &copy, QTreeWidgetItem *item)
-{
-    QTreeWidgetItem *const parent = item->parent();
-    if (!parent)
-        return copy.topLevelItem(item->treeWidget()->indexOfTopLevelItem(item));
-    return counterpart(copy, parent)->child(parent->indexOfChild(item));
 }
 
 // Another value of a setting, which prints otherwise if any does.
@@ -94,22 +79,23 @@ std::vector<bool> linesOnlyIn(const std::vector<PrintedLine> &lines, const std::
 
 } // namespace
 
-PreviewPane::PreviewPane()
-    : QDockWidget(u"Preview"_s)
+PreviewPane::PreviewPane(const ConfigurationDocument &document)
+    : QDockWidget(tr("Preview"))
+    , m_document(document)
     , m_documents(new QComboBox)
     , m_remarks(new QLabel)
     , m_view(new PrintoutView)
 {
     setObjectName(u"preview"_s);
     setFeatures(DockWidgetClosable | DockWidgetMovable);
-    toggleViewAction()->setText(u"&Preview"_s);
+    toggleViewAction()->setText(tr("&Preview"));
     m_documents->setObjectName(u"documents"_s);
-    m_documents->setAccessibleName(u"Document"_s);
+    m_documents->setAccessibleName(tr("Document"));
     m_documents->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_remarks->setObjectName(u"remarks"_s);
     m_remarks->setTextFormat(Qt::PlainText);
     m_remarks->setWordWrap(true);
-    auto *open = new QPushButton(u"&Open…"_s);
+    auto *open = new QPushButton(tr("O&pen…"));
 
     auto *row = new QHBoxLayout;
     row->addWidget(m_documents);
@@ -124,22 +110,19 @@ PreviewPane::PreviewPane()
 
     connect(m_documents, &QComboBox::currentIndexChanged, this, &PreviewPane::refresh);
     connect(open, &QPushButton::clicked, this, &PreviewPane::askForDocument);
-    connect(toggleViewAction(), &QAction::triggered, this,
-            [](bool isShown) { QSettings().setValue(u"preview/shown"_s, isShown); });
+    connect(&document, &ConfigurationDocument::changed, this, &PreviewPane::refresh);
 }
 
-void PreviewPane::setTree(const QTreeWidget *tree, const QString &type)
+void PreviewPane::followKey(const QString &key)
 {
-    m_tree = tree;
-    m_type = type;
+    m_key = key;
     refresh();
 }
 
-// Fills the choice of documents when the current item is of another profile than before.
+// Fills the choice of documents when the key is of another profile than before.
 void PreviewPane::followProfile()
 {
-    const QTreeWidgetItem *const item = m_tree->currentItem();
-    const QString section = item ? keyOf(item).section(u'.', 1, 1) : QString();
+    const QString section = m_key.section(u'.', 1, 1);
     const auto *wanted = std::ranges::find(examples, section, &ExamplesOfProfile::section);
     if (wanted == std::end(examples)) {
         if (!m_profile.isEmpty())
@@ -170,8 +153,8 @@ void PreviewPane::chooseDocument(const QString &file)
 
 void PreviewPane::askForDocument()
 {
-    const QString file = QFileDialog::getOpenFileName(this, u"Open a Document"_s, QString(),
-                                                      u"Documents (*.xml *.tvx);;All files (*)"_s);
+    const QString file = QFileDialog::getOpenFileName(this, tr("Open a Document"), QString(),
+                                                      tr("Documents (*.xml *.tvx);;All files (*)"));
     if (!file.isEmpty())
         chooseDocument(file);
 }
@@ -184,22 +167,19 @@ void PreviewPane::showEvent(QShowEvent *event)
 
 void PreviewPane::refresh()
 {
-    if (!m_tree || m_tree->topLevelItemCount() == 0 || !isVisible())
+    if (!isVisible())
         return;
     followProfile();
     const QString name = m_documents->currentData().toString();
     QFile file(name);
     QStringList remarks;
     if (!file.open(QIODevice::ReadOnly)) {
-        remarks << u"%1 cannot be read: %2"_s.arg(name, file.errorString());
+        remarks << tr("%1 cannot be read: %2").arg(name, file.errorString());
     } else if (!PrintoutPainter::gridFont(*this)) {
-        remarks << u"No font of fixed width is installed: the package fonts-dejavu-core has one."_s;
+        remarks << tr("No font of fixed width is installed: the package fonts-dejavu-core has one.");
     } else {
         QByteArray document = file.readAll();
-        QBuffer device(&document);
-        TXConfiguration configuration{{}, {}};
-        readTree(configuration, *m_tree, m_type);
-        const Preview preview = m_previewer.preview(device, configuration);
+        const Preview preview = printed(document, m_document.configuration());
         remarks = preview.remarks();
         m_view->setPrintout(
             PrintoutPainter(preview.printout, remarks, touchedLines(preview.printout, document)));
@@ -208,21 +188,29 @@ void PreviewPane::refresh()
     m_remarks->setVisible(!remarks.isEmpty());
 }
 
+// On the printer whose section is shown, else on the first.
+Preview PreviewPane::printed(QByteArray document, const TXConfiguration &configuration)
+{
+    PreviewChoice choice;
+    if (m_key.startsWith(printersKey + u'.'))
+        choice.printer = m_key.section(u'.', 2, 2);
+    QBuffer device(&document);
+    return m_previewer.preview(device, configuration, choice);
+}
+
 // Found by trying: the document is printed with another value of the setting.
 std::vector<bool> PreviewPane::touchedLines(const Printout &printout, const QByteArray &document)
 {
-    QTreeWidgetItem *const item = m_tree->currentItem();
-    if (!item || !valueItem(item))
+    const KnownSetting *const setting = findSetting(m_key);
+    if (!setting || (setting->kind != SettingKind::number && setting->kind != SettingKind::onOff))
+        return {}; // of the others no other value is known to be one
+    QString value = m_document.configuration().getStrValue(m_key);
+    if (value.isEmpty())
+        value = valueWhenMissing(m_key, m_document.configuration());
+    const libconfig::TextChange change = m_document.text().set(m_key, otherValue(value));
+    if (!change)
         return {};
-    QTreeWidget copy;
-    for (int i = 0; i < m_tree->topLevelItemCount(); ++i)
-        copy.addTopLevelItem(m_tree->topLevelItem(i)->clone());
-    QTreeWidgetItem *const value = valueItem(counterpart(copy, item));
-    value->setText(0, otherValue(value->text(0)));
-
-    QByteArray bytes = document;
-    QBuffer device(&bytes);
     TXConfiguration configuration{{}, {}};
-    readTree(configuration, copy, m_type);
-    return linesOnlyIn(printout.lines, m_previewer.preview(device, configuration).printout.lines);
+    configuration.readText(change.appliedTo(m_document.text().text()), m_document.text().kind());
+    return linesOnlyIn(printout.lines, printed(document, configuration).printout.lines);
 }

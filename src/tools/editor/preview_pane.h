@@ -6,28 +6,26 @@
 
 #include <vector>
 
+class ConfigurationDocument;
 class PrintoutView;
 class QComboBox;
 class QLabel;
-class QTreeWidget;
+class TXConfiguration;
 
 /*
- * Shows a document printed with the configuration as a tree view shows it, saved or not. The document is of
- * the kind that the current item's profile belongs to; the lines that the current setting touches are marked.
+ * Shows a document printed with the configuration as it stands, saved or not. The document is of the kind
+ * that the current profile belongs to; the lines that the current setting touches are marked.
  */
 class PreviewPane : public QDockWidget
 {
     Q_OBJECT
 
 public:
-    PreviewPane();
+    /* Follows the document, which outlives the pane. */
+    explicit PreviewPane(const ConfigurationDocument &document);
 
-    /* Follows this view of a configuration of the kind "cfg" or "xml", instead of the one before. */
-    void setTree(const QTreeWidget *tree, const QString &type);
-
-    /* Prints again what is shown, if anybody sees it. To be called when a value or the current item changed.
-     */
-    void refresh();
+    /* Follows a person to the section or setting of this dotted key. */
+    void followKey(const QString &key);
 
     /* Shows this document for the current profile from now on, a file of the person's own. */
     void chooseDocument(const QString &file);
@@ -36,12 +34,14 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void refresh();
     void followProfile();
     void askForDocument();
+    Preview printed(QByteArray document, const TXConfiguration &configuration);
     std::vector<bool> touchedLines(const Printout &printout, const QByteArray &document);
 
-    const QTreeWidget *m_tree = nullptr;
-    QString m_type;
+    const ConfigurationDocument &m_document;
+    QString m_key; // of the section or setting where the person is
     QString m_profile; // the section that the documents are of
     DocumentPreviewer m_previewer;
     // Owned by the pane.
