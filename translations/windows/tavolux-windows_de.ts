@@ -763,6 +763,10 @@ Bearbeitet die Konfiguration von tavolux-printer, das die Belege eines Restauran
         <source>Language</source>
         <translation>Sprache</translation>
     </message>
+    <message>
+        <source>Whether a printer at a device is asked whether it is ready, and whether it has printed.</source>
+        <translation>Ob ein Drucker an einem Gerät gefragt wird, ob er bereit ist und ob er gedruckt hat.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsModel</name>

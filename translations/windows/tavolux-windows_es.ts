@@ -763,6 +763,10 @@ Edita la configuración de tavolux-printer, que imprime los documentos de un res
         <source>Language</source>
         <translation>Idioma</translation>
     </message>
+    <message>
+        <source>Whether a printer at a device is asked whether it is ready, and whether it has printed.</source>
+        <translation>Si se pregunta a una impresora en un dispositivo si está lista y si ha imprimido.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsModel</name>

@@ -763,6 +763,10 @@ Modifie la configuration de tavolux-printer, qui imprime les documents d’un re
         <source>Language</source>
         <translation>Langue</translation>
     </message>
+    <message>
+        <source>Whether a printer at a device is asked whether it is ready, and whether it has printed.</source>
+        <translation>Si l’on demande à une imprimante reliée à un périphérique si elle est prête et si elle a imprimé.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsModel</name>

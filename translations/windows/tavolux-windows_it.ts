@@ -763,6 +763,10 @@ Modifica la configurazione di tavolux-printer, che stampa i documenti di un rist
         <source>Language</source>
         <translation>Lingua</translation>
     </message>
+    <message>
+        <source>Whether a printer at a device is asked whether it is ready, and whether it has printed.</source>
+        <translation>Se a una stampante collegata a un dispositivo si chiede se è pronta e se ha stampato.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsModel</name>
