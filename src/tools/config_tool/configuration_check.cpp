@@ -261,7 +261,8 @@ private:
         case Kind::leftoverText:
             add(statement.line,
                 m_kind == "cfg"_L1 && commentLine(statement.name)
-                    ? u"the format has no comments: %1 belongs to no setting and is passed over"_s.arg(quoted(statement.name))
+                    ? u"the format has no comments: %1 belongs to no setting and is passed over"_s.arg(
+                        quoted(statement.name))
                     : u"%1 belongs to no setting and is passed over"_s.arg(quoted(statement.name)));
             break;
         }
