@@ -4,6 +4,7 @@
 #include "file_size_limit.h"
 #include "findings_pane.h"
 #include "help_window.h"
+#include "interface_language.h"
 #include "preview_pane.h"
 #include "printer_dialog.h"
 #include "read_file.h"
@@ -23,16 +24,19 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSet>
 #include <QSettings>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextTable>
+#include <QTranslator>
 #include <QTreeView>
 
 #include <cstdio>
@@ -150,6 +154,9 @@ private Q_SLOTS:
     void doesNotWaitForAPipe();
     void opensAndSavesANameOfBytes();
     void saysWhatOfAFileIsNotKept();
+    void speaksTheLanguageOfThePerson_data();
+    void speaksTheLanguageOfThePerson();
+    void tellsAboutItself();
     void asksInMessageBoxes();
     void cutsLongExplanationsInMessageBoxes();
 
@@ -1207,6 +1214,61 @@ void EditorWindowTest::saysWhatOfAFileIsNotKept()
     QCOMPARE(window->statusBar()->currentMessage(),
              u"Saved, but its owner could not be kept: Operation not permitted."_s);
     QCOMPARE(fileBytes(file), configurationWithWidth("48"));
+}
+
+void EditorWindowTest::speaksTheLanguageOfThePerson_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("receipts");
+    QTest::addColumn<QString>("explanation");
+    QTest::newRow("English") << u"en"_s << u"Receipts"_s << u"Whether the order's table is printed."_s;
+    QTest::newRow("German") << u"de"_s << u"Quittungen"_s << u"Ob der Tisch der Bestellung gedruckt wird."_s;
+    QTest::newRow("Spanish") << u"es"_s << u"Recibos"_s << u"Si se imprime la mesa del pedido."_s;
+    QTest::newRow("French") << u"fr"_s << u"Reçus"_s << u"Si la table de la commande est imprimée."_s;
+    QTest::newRow("Italian") << u"it"_s << u"Ricevute"_s << u"Se si stampa il tavolo dell’ordine."_s;
+}
+
+void EditorWindowTest::speaksTheLanguageOfThePerson()
+{
+    QFETCH(const QString, language);
+    const QLocale before;
+    QLocale::setDefault(QLocale(language));
+    QTranslator translator;
+    QCOMPARE(loadInterface(translator, {QStringLiteral(TAVOLUX_BINARY_DIR "/translations")}),
+             language != "en"_L1);
+    QCoreApplication::installTranslator(&translator);
+    open(configuration);
+    select(u"tavolux.receiptdoc.printTable"_s);
+    QTEST(sections()->currentIndex().data().toString(), "receipts");
+    QTEST(label(u"explanation"_s), "explanation");
+
+    // Each letter that is pressed chooses one thing.
+    QList<QList<QAction *>> menus{window->menuBar()->actions()};
+    for (const QAction *menu : window->menuBar()->actions())
+        menus << menu->menu()->actions();
+    for (const QList<QAction *> &menu : menus) {
+        QStringList keys;
+        for (const QAction *entry : menu)
+            if (!entry->isSeparator())
+                keys << QKeySequence::mnemonic(entry->text()).toString();
+        QVERIFY2(!keys.contains(QString()), qPrintable(keys.join(u' ')));
+        QVERIFY2(QSet<QString>(keys.begin(), keys.end()).size() == keys.size(), qPrintable(keys.join(u' ')));
+    }
+    window.reset();
+    QCoreApplication::removeTranslator(&translator);
+    QLocale::setDefault(before);
+}
+
+void EditorWindowTest::tellsAboutItself()
+{
+    open(configuration);
+    QString text;
+    inNextDialog<QMessageBox>([&text](QMessageBox &box) {
+        text = box.text();
+        box.accept();
+    });
+    chooseDialog(u"About"_s);
+    QVERIFY2(text.startsWith("Tavolux Configuration " TAVOLUX_VERSION "\n"_L1), qPrintable(text));
 }
 
 void EditorWindowTest::asksInMessageBoxes()

@@ -109,11 +109,11 @@
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>&amp;Weitersuchen</translation>
+        <translation>Wei&amp;tersuchen</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation>&amp;Rückwärts suchen</translation>
+        <translation>Rückwärts s&amp;uchen</translation>
     </message>
     <message>
         <source>&amp;View</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Add &amp;Printer…</source>
-        <translation>Aggiungi una sta&amp;mpante…</translation>
+        <translation>Aggiungi una stam&amp;pante…</translation>
     </message>
     <message>
         <source>&amp;Copy Settings to…</source>
@@ -109,11 +109,11 @@
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>Cerca il &amp;successivo</translation>
+        <translation>Cerca il successi&amp;vo</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation>Cerca il pre&amp;cedente</translation>
+        <translation>Cerca il precede&amp;nte</translation>
     </message>
     <message>
         <source>&amp;View</source>

@@ -279,7 +279,8 @@ private:
         if (!m_firstSection.isEmpty()) {
             add(section.line,
                 u"the section %1 is never read: only the first one, %2, is"_s.arg(quoted(section.name),
-                                                                                  quoted(m_firstSection)));
+                                                                                  quoted(m_firstSection)),
+                section.name);
             return;
         }
         m_firstSection = section.name;
@@ -288,7 +289,8 @@ private:
         else
             add(section.line,
                 u"the first section is %1, not \"tavolux\", so nothing in the file is found"_s.arg(
-                    quoted(section.name)));
+                    quoted(section.name)),
+                section.name);
     }
 
     // A section below one that is read.
@@ -301,14 +303,16 @@ private:
             add(section.line,
                 u"%1 is no section of %2 that is ever read%3"_s.arg(
                     quoted(section.name), quoted(parent.path),
-                    suggestion(section.name, namesOfSections(parent.path))));
+                    suggestion(section.name, namesOfSections(parent.path))),
+                section.path);
             return;
         }
         m_lineOf.insert(section.path, m_lineOf.value(section.path, section.line));
         if (const auto earlier = earlierLine(parent.sectionLines, section.name, section.line))
             add(section.line,
                 u"the section %1 is given twice, first in line %2; of each setting the first that is not "
-                u"empty counts"_s.arg(quoted(section.path), QString::number(*earlier)));
+                u"empty counts"_s.arg(quoted(section.path), QString::number(*earlier)),
+                section.path);
     }
 
     void checkSetting(const Statement &setting)

@@ -14,7 +14,6 @@ FindingsPane::FindingsPane(ConfigurationDocument &document)
 {
     setObjectName(u"findings"_s);
     setFeatures(DockWidgetClosable | DockWidgetMovable);
-    toggleViewAction()->setText(tr("&Findings"));
     m_list->setAccessibleName(tr("Findings"));
     m_list->setWordWrap(true);
     m_list->setLayoutMode(QListWidget::Batched); // thousands take a while
@@ -42,4 +41,5 @@ void FindingsPane::update()
             style()->standardIcon(QStyle::SP_MessageBoxWarning),
             finding.line == 0 ? finding.text : tr("Line %1: %2").arg(finding.line).arg(finding.text)));
     setWindowTitle(findings.empty() ? tr("Nothing found wrong") : tr("Found wrong: %1").arg(findings.size()));
+    toggleViewAction()->setText(tr("&Findings")); // which a title changes
 }

@@ -90,5 +90,6 @@ void HelpWindow::showAtTop(const QTextCursor &place)
 {
     moveCursor(QTextCursor::End); // since only what is not seen is scrolled to
     setTextCursor(place);
+    horizontalScrollBar()->setValue(0);
     verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top());
 }

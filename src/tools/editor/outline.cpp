@@ -128,7 +128,7 @@ QString explanationOf(const ShownSetting &setting)
 {
     if (!setting.known)
         return {};
-    const QString explanation = translated(setting.known->explanation);
+    QString explanation = translated(setting.known->explanation);
     if (setting.known->kind != SettingKind::number)
         return explanation;
     const QLocale locale;

@@ -115,6 +115,8 @@ PreviewPane::PreviewPane(const ConfigurationDocument &document)
 
 void PreviewPane::followKey(const QString &key)
 {
+    if (m_key == key)
+        return;
     m_key = key;
     refresh();
 }
