@@ -203,7 +203,7 @@ PortResult PrinterPort::waitToWrite(const std::function<void()> &stalled)
             return result;
         if (stalled)
             stalled();
-        if (m_limits.stall > 0ms && Clock::now() - since >= m_limits.stall) {
+        if (m_limits.stall.count() > 0 && Clock::now() - since >= m_limits.stall) {
             m_fault = "the printer takes nothing";
             return result;
         }
