@@ -116,12 +116,11 @@ private:
     QByteArray written(const QStringList &path, const std::vector<NamedValue> &settings,
                        const QByteArray &gap) const;
 
-    QString roomFault(int section, qsizetype newSections) const;
+    QString roomFault(int index, qsizetype newSections) const;
     TextChange insertion(qsizetype position, const QByteArray &bytes) const;
     template <typename Write>
-    TextChange addStatement(int section, Entry::Kind kind, Write write) const;
-    TextChange addElement(int section, const QStringList &path,
-                          const std::vector<NamedValue> &settings) const;
+    TextChange addStatement(int index, Entry::Kind kind, Write write) const;
+    TextChange addElement(int index, const QStringList &path, const std::vector<NamedValue> &settings) const;
 
     QByteArray gapBefore(qsizetype position) const;
     QByteArray indentationOf(int index) const;
