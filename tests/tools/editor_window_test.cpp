@@ -848,7 +848,7 @@ void EditorWindowTest::startsWhereThereIsNoFile_data()
 void EditorWindowTest::startsWhereThereIsNoFile()
 {
     QFETCH(const bool, wanted);
-    inNextDialog<StarterDialog>([wanted, this](StarterDialog &dialog) {
+    inNextDialog<StarterDialog>([wanted](StarterDialog &dialog) {
         QVERIFY(dialog.findChild<QLabel *>()->text().contains(
             u"There is no configuration %1 yet."_s.arg(TXConfiguration::userFile())));
         QTest::keyClick(&dialog, wanted ? Qt::Key_Return : Qt::Key_Escape);
