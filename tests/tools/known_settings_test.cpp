@@ -1,8 +1,10 @@
 #include "known_settings.h"
 
+#include "configuration_text.h"
 #include "document_profile.h"
 #include "printer_settings.h"
 #include "read_file.h"
+#include "starter_configuration.h"
 #include "tx_configuration.h"
 
 #include <QRegularExpression>
@@ -98,6 +100,19 @@ private Q_SLOTS:
                      qPrintable(key));
             QCOMPARE(choicesOf(*setting).isEmpty(), setting->kind != SettingKind::choice);
         }
+    }
+
+    void aStarterHasThemAll()
+    {
+        const QByteArray starter = starterConfiguration(42);
+        const libconfig::ConfigurationText text(starter);
+        TXConfiguration configuration{{}, {}};
+        configuration.readText(starter, u"cfg"_s);
+        QStringList started;
+        for (int i = 1; i < static_cast<int>(text.entries().size()); ++i)
+            if (text.entry(i).isSetting())
+                started << text.keyOf(i);
+        QCOMPARE(sorted(started), sorted(knownKeys(configuration)));
     }
 
     void choicesAreTaken()
