@@ -43,11 +43,13 @@ struct Kind
     const char *name;
     bool laysOut; // documents; else bytes that are ready
     bool confirms;
+    int dirtyCleanInterval = 0; // s
 };
 
 constexpr Kind document = {"document", true, true};
 constexpr Kind ready = {"ready", false, true};
 constexpr Kind raw = {"socket", false, false};
+constexpr Kind lateDocument = {"document*", true, true, 1};
 
 constexpr auto documentFile = TAVOLUX_SOURCE_DIR "/examples/documents/full-receipt.xml";
 const QByteArray configuration =
@@ -95,7 +97,8 @@ class Restaurant
 {
 public:
     Restaurant(const Kind &kind, const QByteArray &bytes, int printerCount)
-        : m_kind(kind)
+        : server(kind.dirtyCleanInterval)
+        , m_kind(kind)
         , m_bytes(bytes)
         , m_job(kind.laysOut ? QString::fromLatin1(documentFile) : m_home.writeFile(u"job"_s, bytes))
     {
@@ -287,11 +290,13 @@ void measureThroughput(const QByteArray &bytes)
 
 void measureBacklog(const QByteArray &bytes)
 {
-    std::printf("\nOne printer and many jobs waiting: the last 100 jobs in, the first 100 out\n"
-                "%8s %10s %8s %8s %9s %10s %9s %10s\n",
-                "waiting", "queue", "in", "out", "server in", "server out", "programs", "server MB");
+    std::printf(
+        "\nOne printer and many jobs waiting: the last 100 jobs in, the first 100 out (*: DirtyCleanInterval "
+        "1)\n"
+        "%8s %10s %8s %8s %9s %10s %9s %10s\n",
+        "waiting", "queue", "in", "out", "server in", "server out", "programs", "server MB");
     for (const int waiting : {10, 100, 1000, 10'000})
-        for (const Kind &kind : {raw, document}) {
+        for (const Kind &kind : {lateDocument, document, raw}) {
             const Rates rates = measureRates(kind, bytes, 1, waiting, std::min(waiting, 100));
             std::printf("%8d %10s %8.1f %8.1f %9.1f %10.1f %9.1f %10.1f\n", waiting, kind.name, rates.in,
                         rates.out, rates.serverPerJobIn, rates.perJobOut.server, rates.perJobOut.programs,

@@ -26,7 +26,7 @@ LogLevel info
 Listen FOLDER/cups.sock
 Browsing No
 WebInterface No
-DirtyCleanInterval 0
+DirtyCleanInterval SECONDS
 MaxJobs 0
 MaxJobTime 0
 PreserveJobHistory 86400
@@ -89,7 +89,7 @@ QByteArray PrintServer::obstacle()
     return {};
 }
 
-PrintServer::PrintServer()
+PrintServer::PrintServer(int dirtyCleanInterval)
 {
     // The backends have to reach it.
     makeFolder(QDir::cleanPath(m_folder.path() + u"/.."_s), 0711);
@@ -112,7 +112,10 @@ PrintServer::PrintServer()
                 0644);
 
     const QByteArray folder = m_folder.path().toLocal8Bit();
-    m_folder.writeFile(u"cupsd.conf"_s, QByteArray(settings).replace("FOLDER", folder));
+    m_folder.writeFile(u"cupsd.conf"_s,
+                       QByteArray(settings)
+                           .replace("FOLDER", folder)
+                           .replace("SECONDS", QByteArray::number(dirtyCleanInterval)));
     m_folder.writeFile(u"cups-files.conf"_s, QByteArray(files).replace("FOLDER", folder));
 }
 

@@ -17,7 +17,8 @@ public:
     /* Why this machine cannot run one; empty when it can. */
     static QByteArray obstacle();
 
-    PrintServer();
+    /* Jobs reach the disk so many seconds after they are taken, without any waiting at 0. */
+    explicit PrintServer(int dirtyCleanInterval = 0);
     ~PrintServer();
     PrintServer(const PrintServer &) = delete;
     PrintServer &operator=(const PrintServer &) = delete;

@@ -124,10 +124,10 @@ void printTable(const std::vector<Listed> &rows, const ConfigurationText &text,
     };
     for (const Listed &row : rows) {
         const auto shown = [](const QString &value) { return value.isEmpty() ? u"-"_s : value.simplified(); };
-        const Cells &cells = table.emplace_back(
-            row.name.simplified(), row.entry ? shown(text.entry(*row.entry).value) : u"-"_s,
-            row.known ? shown(valueWhenMissing(row.key(), configuration)) : u"-"_s,
-            row.known ? QString::fromLatin1(row.known->explanation) : u"(never read)"_s);
+        table.push_back({row.name.simplified(), row.entry ? shown(text.entry(*row.entry).value) : u"-"_s,
+                         row.known ? shown(valueWhenMissing(row.key(), configuration)) : u"-"_s,
+                         row.known ? QString::fromLatin1(row.known->explanation) : u"(never read)"_s});
+        const Cells &cells = table.back();
         widen(widest.name, cells.name);
         widen(widest.value, cells.value);
         widen(widest.fallback, cells.fallback);
