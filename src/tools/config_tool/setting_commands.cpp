@@ -4,9 +4,11 @@
 #include "configuration_text.h"
 #include "file_name.h"
 #include "known_settings.h"
+#include "nearest_name.h"
 #include "tx_configuration.h"
 #include "write_file.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -43,9 +45,14 @@ QStringList allKeys(const ConfigurationText &text, const TXConfiguration &config
 /* The key that was probably meant; the first section is the one thing that nobody thinks of. */
 QString suggestedKey(const QString &key, const QStringList &keys)
 {
-    const QString whole = "tavolux."_L1 + key;
-    const QString nearest = keys.contains(whole) ? QString() : suggestion(key, keys);
-    return nearest.isEmpty() ? suggestion(whole, keys) : nearest;
+    constexpr QLatin1StringView first = "tavolux."_L1;
+    if (key.startsWith(first))
+        return suggestion(key, keys);
+    QStringList shortened;
+    for (const QString &known : keys)
+        shortened << (known.startsWith(first) ? known.sliced(first.size()) : known);
+    const QString nearest = nearestName(key, shortened);
+    return nearest.isEmpty() ? QString() : u"; did you mean \"%1\"?"_s.arg(keys[shortened.indexOf(nearest)]);
 }
 
 /* A row of the list. */
@@ -61,16 +68,22 @@ struct Listed
 
 std::vector<Listed> listed(const ConfigurationText &text, const TXConfiguration &configuration)
 {
+    QHash<QString, QList<int>> entries; // by key
+    for (int index = 1; index < static_cast<int>(text.entries().size()); ++index)
+        if (text.entry(index).isSetting())
+            entries[text.keyOf(index)] << index;
     std::vector<Listed> rows;
-    QStringList sections;
+    QHash<QString, qsizetype> order; // of the sections
     for (const QString &key : allKeys(text, configuration)) {
         const qsizetype dot = key.lastIndexOf(u'.');
         const QString section = key.left(dot);
-        if (!sections.contains(section))
-            sections << section;
-        rows.push_back({section, key.sliced(dot + 1), text.settingOf(key), findSetting(key)});
+        order.insert(section, order.value(section, order.size()));
+        const QList<int> given = entries.value(key);
+        // To look for one that is there only once takes as long as the section is large.
+        const std::optional<int> entry = given.size() == 1 ? given.front() : text.settingOf(key);
+        rows.push_back({section, key.sliced(dot + 1), entry, findSetting(key)});
     }
-    std::ranges::stable_sort(rows, {}, [&](const Listed &row) { return sections.indexOf(row.section); });
+    std::ranges::stable_sort(rows, {}, [&](const Listed &row) { return order.value(row.section); });
     return rows;
 }
 
@@ -162,12 +175,12 @@ QStringList newFindings(const ConfigurationText &before, const ConfigurationText
     const auto textOf = [](const Finding &finding) {
         return QString(finding.text).replace(lineNumber, u"in line"_s) + finding.key;
     };
-    QStringList known;
+    QHash<QString, int> known;
     for (const Finding &finding : checkConfiguration(before.text(), before.kind()))
-        known << textOf(finding);
+        ++known[textOf(finding)];
     QStringList found;
     for (const Finding &finding : checkConfiguration(after.text(), after.kind()))
-        if (!known.removeOne(textOf(finding)))
+        if (--known[textOf(finding)] < 0)
             found << (finding.key.isEmpty() ? finding.text : finding.key + ": "_L1 + finding.text);
     return found;
 }

@@ -23,6 +23,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
@@ -69,7 +70,7 @@ EditorWindow::EditorWindow(Dialogs &dialogs)
     , m_findings(new FindingsPane(m_document))
     , m_preview(new PreviewPane(m_document))
 {
-    resize(1060, 660);
+    resize(QSize(1060, 660).boundedTo(screen()->availableSize()));
     setAcceptDrops(true);
     createViews();
     createFileMenu();

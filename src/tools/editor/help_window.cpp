@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBlock>
@@ -27,7 +28,7 @@ HelpWindow::HelpWindow()
 {
     setWindowTitle(tr("The Configuration"));
     setObjectName(u"help"_s);
-    resize(760, 640);
+    resize(QSize(760, 640).boundedTo(screen()->availableSize()));
     auto *close = new QShortcut(Qt::Key_Escape, this);
     connect(close, &QShortcut::activated, this, &QWidget::close);
     setOpenLinks(false);
