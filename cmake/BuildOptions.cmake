@@ -36,3 +36,6 @@ endif()
 
 # Only the libraries that a program really uses are loaded when it starts.
 add_link_options(-Wl,--as-needed)
+
+# The first format of resources holds no times of files, which differ from clone to clone.
+set(TAVOLUX_RESOURCE_OPTIONS OPTIONS --format-version 1)
