@@ -123,17 +123,20 @@ bool setSwitch(PrinterSettings &settings, const QString &value)
 }
 
 constexpr PrinterSetting allSettings[] = {
-    {"model"_L1, "the name of a model", &setModel},
-    {"output"_L1, "a list of names and patterns", &setOutputs},
-    {"columns"_L1, "a number from 1 to 255", &setNumber<&PrinterSettings::columns, 1, 255>},
-    {"codePages"_L1, "a list of code pages with their numbers", &setCodePages},
-    {"cut"_L1, "full, partial or none", &setCut},
-    {"feed"_L1, "a number from 0 to 255", &setNumber<&PrinterSettings::feed, 0, 255>},
-    {"drawerPin"_L1, "2 or 5", &setDrawerPin},
-    {"drawerPulse"_L1, "two times from 2 to 510 ms", &setDrawerPulse},
-    {"logo"_L1, "a PNG file, or stored: with a number from 1 to 255", &setLogo},
-    {"duplicate"_L1, "true or false", &setSwitch<&PrinterSettings::duplicate>},
-    {"status"_L1, "true or false", &setSwitch<&PrinterSettings::status>},
+    {"model"_L1, QT_TRANSLATE_NOOP("Findings", "the name of a model"), &setModel},
+    {"output"_L1, QT_TRANSLATE_NOOP("Findings", "a list of names and patterns"), &setOutputs},
+    {"columns"_L1, QT_TRANSLATE_NOOP("Findings", "a number from 1 to 255"),
+     &setNumber<&PrinterSettings::columns, 1, 255>},
+    {"codePages"_L1, QT_TRANSLATE_NOOP("Findings", "a list of code pages with their numbers"), &setCodePages},
+    {"cut"_L1, QT_TRANSLATE_NOOP("Findings", "full, partial or none"), &setCut},
+    {"feed"_L1, QT_TRANSLATE_NOOP("Findings", "a number from 0 to 255"),
+     &setNumber<&PrinterSettings::feed, 0, 255>},
+    {"drawerPin"_L1, QT_TRANSLATE_NOOP("Findings", "2 or 5"), &setDrawerPin},
+    {"drawerPulse"_L1, QT_TRANSLATE_NOOP("Findings", "two times from 2 to 510 ms"), &setDrawerPulse},
+    {"logo"_L1, QT_TRANSLATE_NOOP("Findings", "a PNG file, or stored: with a number from 1 to 255"),
+     &setLogo},
+    {"duplicate"_L1, QT_TRANSLATE_NOOP("Findings", "true or false"), &setSwitch<&PrinterSettings::duplicate>},
+    {"status"_L1, QT_TRANSLATE_NOOP("Findings", "true or false"), &setSwitch<&PrinterSettings::status>},
 };
 
 QByteArray resolved(const QByteArray &path)

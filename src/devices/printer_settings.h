@@ -53,7 +53,7 @@ struct PrinterSettings
 struct PrinterSetting
 {
     QLatin1StringView name; // in the configuration
-    const char *expected; // what it takes, in English: "a number from 1 to 255"
+    const char *expected; // in English: "a number from 1 to 255"; windows translate it in "Findings"
 
     /* Sets what the text of the configuration says; false, and nothing set, when that is not what is
      * expected.

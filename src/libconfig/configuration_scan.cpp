@@ -1,6 +1,7 @@
 #include "configuration_scan.h"
 
 #include "config.h"
+#include "findings.h"
 #include "xml_walk.h"
 
 #include <QDomDocument>
@@ -148,7 +149,7 @@ private:
 
 QString xmlFault(const QString &reason)
 {
-    return "this is no well-formed XML, so nothing in it is read: "_L1 + reason;
+    return Findings::tr("this is no well-formed XML, so nothing in it is read: %1").arg(reason);
 }
 
 } // namespace
@@ -254,8 +255,8 @@ Scan scanXml(const QByteArray &text)
         line = std::max(line, static_cast<int>(reader.lineNumber()));
     });
     if (!isShallow) {
-        scan.fault = u"sections nest deeper than %1, so nothing in the file is read"_s.arg(
-            libconfig::Config::maximumNesting);
+        scan.fault = Findings::tr("sections nest deeper than %1, so nothing in the file is read")
+                         .arg(libconfig::Config::maximumNesting);
         scan.faultLine = scan.statements.back().line;
         return scan;
     }

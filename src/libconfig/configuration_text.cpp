@@ -1,6 +1,7 @@
 #include "configuration_text.h"
 
 #include "config.h"
+#include "findings.h"
 #include "quoted.h"
 
 #include <algorithm>
@@ -109,13 +110,13 @@ ConfigurationText::ConfigurationText(const QByteArray &text, const QString &kind
 {
     const Scan scan = scanConfiguration(text, kind);
     if (!scan.fault.isEmpty())
-        m_fault = u"line %1: %2"_s.arg(QString::number(scan.faultLine), scan.fault);
+        m_fault = Findings::tr("line %1: %2").arg(QString::number(scan.faultLine), scan.fault);
     else if (!scan.beginsWithRoot)
-        m_fault =
-            u"it does not begin with its root element but with a declaration or a comment, so nothing in "
-            u"it is found"_s;
+        m_fault = Findings::tr(
+            "it does not begin with its root element but with a declaration or a comment, so nothing in "
+            "it is found");
     else if (isXml() && text.contains('\0'))
-        m_fault = u"it is in UTF-16, and only UTF-8 can be changed in place"_s;
+        m_fault = Findings::tr("it is in UTF-16, and only UTF-8 can be changed in place");
     else
         build(scan);
 }
@@ -247,7 +248,8 @@ QString ConfigurationText::nameFault(const QStringList &names) const
 {
     const auto wrong = std::ranges::find_if(
         names, [this](const QString &name) { return !isName(name) || name.contains(u'.'); });
-    return wrong == names.end() ? QString() : u"%1 is no name that could be looked up"_s.arg(quoted(*wrong));
+    return wrong == names.end() ? QString()
+                                : Findings::tr("%1 is no name that could be looked up").arg(quoted(*wrong));
 }
 
 // Why a setting would be read back differently; empty when it would not.
@@ -255,14 +257,15 @@ QString ConfigurationText::fitness(const std::vector<NamedValue> &settings) cons
 {
     for (const auto &[name, value] : settings) {
         if (isBeyondLatin1(value))
-            return u"the value %1 has characters outside of Latin-1, which would be lost"_s.arg(
-                quoted(value));
+            return Findings::tr("the value %1 has characters outside of Latin-1, which would be lost")
+                .arg(quoted(value));
         for (const QChar c : value) {
             if (!isXml() && (c == u';' || c == u'"'))
-                return u"a value cannot have a %1: %2"_s.arg(c == u';' ? u"semicolon"_s : u"double quote"_s,
-                                                             quoted(value));
+                return (c == u';' ? Findings::tr("a value cannot have a semicolon: %1")
+                                  : Findings::tr("a value cannot have a double quote: %1"))
+                    .arg(quoted(value));
             if (c < u' ' && !u"\t\n\r"_s.contains(c))
-                return u"a value cannot have control characters: %1"_s.arg(quoted(value));
+                return Findings::tr("a value cannot have control characters: %1").arg(quoted(value));
         }
     }
     return {};
@@ -351,16 +354,17 @@ QString ConfigurationText::roomFault(int index, qsizetype newSections) const
     for (int above = index; above != wholeFile; above = entry(above).parent)
         ++depth;
     if (depth > Config::maximumNesting)
-        return u"sections nest %1 deep at most"_s.arg(Config::maximumNesting);
+        return Findings::tr("sections nest %1 deep at most").arg(Config::maximumNesting);
     const QByteArrayView head = QByteArrayView(m_text).sliced(section.head.begin, section.head.size());
     if (index != wholeFile && !isXml() && !head.endsWith('{'))
-        return u"line %1: no opening brace follows the section %2"_s.arg(QString::number(section.line),
-                                                                         quoted(section.name));
+        return Findings::tr("line %1: no opening brace follows the section %2")
+            .arg(QString::number(section.line), quoted(section.name));
     if (section.children.empty())
         return {};
     const Entry &last = entry(section.children.back());
     if (!last.complete && !last.isSetting())
-        return u"line %1: the section %2 is not closed"_s.arg(QString::number(last.line), quoted(last.name));
+        return Findings::tr("line %1: the section %2 is not closed")
+            .arg(QString::number(last.line), quoted(last.name));
     return {};
 }
 
@@ -396,7 +400,7 @@ TextChange ConfigurationText::addElement(int index, const QStringList &path,
                                          const std::vector<NamedValue> &settings) const
 {
     if (index == wholeFile)
-        return refusal(u"a file of the kind xml has one root element, and no place beside it"_s);
+        return refusal(Findings::tr("a file of the kind xml has one root element, and no place beside it"));
     const Entry &section = entry(index);
     const auto last = std::find_if(section.children.rbegin(), section.children.rend(),
                                    [this](int child) { return !entry(child).isSetting(); });
@@ -440,7 +444,7 @@ TextChange ConfigurationText::addSetting(int section, const QString &name, const
     if (!isXml())
         return addStatement(section, Entry::Kind::setting, [&](auto &&) { return written(name, value); });
     if (section == wholeFile)
-        return refusal(u"in a file of the kind xml every setting is an attribute of an element"_s);
+        return refusal(Findings::tr("in a file of the kind xml every setting is an attribute of an element"));
     qsizetype at = entry(section).head.begin + 1 + entry(section).name.toUtf8().size();
     QByteArray gap = " "_ba;
     for (const int child : entry(section).children)
@@ -478,12 +482,14 @@ TextChange ConfigurationText::remove(int index) const
     auto [begin, end] = entry.span;
     if (!entry.isSetting()) {
         if (index == wholeFile || (isXml() && entry.parent == wholeFile))
-            return refusal(u"the root of the file stays"_s);
+            return refusal(Findings::tr("the root of the file stays"));
         const QByteArray tail = m_text.sliced(entry.tail.begin, entry.tail.size()).simplified();
         if (!entry.complete || (!isXml() && tail != "};" && tail != "} ;"))
             return refusal(
-                u"the end of the section %1, from line %2 on, is not plain, so it is not known what "
-                u"would go with it"_s.arg(quoted(entry.name), QString::number(entry.line)));
+                Findings::tr(
+                    "the end of the section %1, from line %2 on, is not plain, so it is not known what "
+                    "would go with it")
+                    .arg(quoted(entry.name), QString::number(entry.line)));
     }
 
     const auto isIndentation = [this](qsizetype at) { return m_text[at] == ' ' || m_text[at] == '\t'; };
@@ -517,10 +523,10 @@ TextChange ConfigurationText::set(const QString &key, const QString &value) cons
 
     QStringList names = key.split(u'.');
     if (names.size() < 2 || !nameFault(names).isEmpty())
-        return refusal(u"%1 is no key that could be looked up"_s.arg(quoted(key)));
+        return refusal(Findings::tr("%1 is no key that could be looked up").arg(quoted(key)));
     if (const std::optional<int> first = firstSection(); first && entry(*first).name != names.front())
-        return refusal(
-            u"the first section is %1, and no other is ever read"_s.arg(quoted(entry(*first).name)));
+        return refusal(Findings::tr("the first section is %1, and no other is ever read")
+                           .arg(quoted(entry(*first).name)));
 
     const QString name = names.takeLast();
     QStringList missing;

@@ -1,5 +1,6 @@
 #include "editor_window.h"
 
+#include "configuration_text.h"
 #include "file_name.h"
 #include "file_size_limit.h"
 #include "findings_pane.h"
@@ -156,6 +157,8 @@ private Q_SLOTS:
     void saysWhatOfAFileIsNotKept();
     void speaksTheLanguageOfThePerson_data();
     void speaksTheLanguageOfThePerson();
+    void saysWhatIsWrongInTheLanguageOfThePerson_data();
+    void saysWhatIsWrongInTheLanguageOfThePerson();
     void tellsAboutItself();
     void asksInMessageBoxes();
     void cutsLongExplanationsInMessageBoxes();
@@ -1258,6 +1261,50 @@ void EditorWindowTest::speaksTheLanguageOfThePerson()
     window.reset();
     QCoreApplication::removeTranslator(&translator);
     QLocale::setDefault(before);
+}
+
+void EditorWindowTest::saysWhatIsWrongInTheLanguageOfThePerson_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("findings");
+    QTest::addColumn<QString>("refusal");
+    QTest::newRow("English")
+        << u"en"_s
+        << QStringList{u"Line 9: \"printTime\" is \"yes\", neither \"true\" nor \"false\", so it is off"_s,
+                       u"Line 10: \"mystery\" is no setting of \"tavolux.receiptdoc\" that is ever read"_s,
+                       u"Line 12: \"columns\" is \"300\", not a number from 1 to 255"_s}
+        << u"the root of the file stays"_s;
+    QTest::newRow("German")
+        << u"de"_s
+        << QStringList{u"Zeile 9: \"printTime\" ist \"yes\", weder \"true\" noch \"false\", und daher aus"_s,
+                       u"Zeile 10: \"mystery\" ist keine Einstellung von \"tavolux.receiptdoc\", "
+                       "die je gelesen wird"_s,
+                       u"Zeile 12: \"columns\" ist \"300\"; erwartet wird: eine Zahl von 1 bis 255"_s}
+        << u"die Wurzel der Datei bleibt"_s;
+}
+
+void EditorWindowTest::saysWhatIsWrongInTheLanguageOfThePerson()
+{
+    QFETCH(const QString, language);
+    const QLocale before;
+    QLocale::setDefault(QLocale(language));
+    QTranslator translator;
+    QCOMPARE(loadInterface(translator, {QStringLiteral(TAVOLUX_BINARY_DIR "/translations")}),
+             language != "en"_L1);
+    QCoreApplication::installTranslator(&translator);
+    open(configurationWith("output = x;", "output = x; columns = 300;"));
+    const auto *const list = window->findChild<FindingsPane *>()->findChild<QListWidget *>();
+    QStringList found;
+    for (int row = 0; row < list->count(); ++row)
+        found << list->item(row)->text();
+    const QString refusal = libconfig::ConfigurationText(configuration, u"cfg"_s)
+                                .remove(libconfig::ConfigurationText::wholeFile)
+                                .fault;
+    window.reset();
+    QCoreApplication::removeTranslator(&translator);
+    QLocale::setDefault(before);
+    QTEST(found, "findings");
+    QTEST(refusal, "refusal");
 }
 
 void EditorWindowTest::tellsAboutItself()

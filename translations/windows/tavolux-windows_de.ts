@@ -249,6 +249,293 @@ Bearbeitet die Konfiguration von tavolux-printer, das die Belege eines Restauran
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>; did you mean %1?</source>
+        <translation>; meinten Sie %1?</translation>
+    </message>
+    <message>
+        <source>this looks like XML, which --type xml checks; the printing program reads cfg alone</source>
+        <translation>das sieht nach XML aus, das --type xml prüft; das Druckprogramm liest nur cfg</translation>
+    </message>
+    <message>
+        <source>the first node is not the root element but a declaration or a comment, so nothing in the file is found</source>
+        <translation>der erste Knoten ist nicht das Wurzelelement, sondern eine Deklaration oder ein Kommentar; daher wird nichts in der Datei gefunden</translation>
+    </message>
+    <message>
+        <source>the section %1 is not closed</source>
+        <translation>der Abschnitt %1 ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>there is no section &quot;tavolux&quot; with settings in it, so nothing is found</source>
+        <translation>es gibt keinen Abschnitt &quot;tavolux&quot; mit Einstellungen darin; daher wird nichts gefunden</translation>
+    </message>
+    <message>
+        <source>%1 is passed over; is a semicolon or a brace missing before it?</source>
+        <translation>%1 wird übergangen; fehlt davor ein Semikolon oder eine Klammer?</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 belongs to no setting and is passed over</source>
+        <translation>das Format kennt keine Kommentare: %1 gehört zu keiner Einstellung und wird übergangen</translation>
+    </message>
+    <message>
+        <source>%1 belongs to no setting and is passed over</source>
+        <translation>%1 gehört zu keiner Einstellung und wird übergangen</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so the reading ends here</source>
+        <translation>Abschnitte sind tiefer als %1 verschachtelt; daher endet das Lesen hier</translation>
+    </message>
+    <message>
+        <source>no opening brace follows the section %1</source>
+        <translation>auf den Abschnitt %1 folgt keine öffnende Klammer</translation>
+    </message>
+    <message>
+        <source>a section without a name is never read</source>
+        <translation>ein Abschnitt ohne Namen wird nie gelesen</translation>
+    </message>
+    <message>
+        <source>a closing brace that closes no section ends the reading here</source>
+        <translation>eine schließende Klammer, die keinen Abschnitt schließt, beendet das Lesen hier</translation>
+    </message>
+    <message>
+        <source>the section %1 is never read: only the first one, %2, is</source>
+        <translation>der Abschnitt %1 wird nie gelesen: nur der erste, %2, wird es</translation>
+    </message>
+    <message>
+        <source>the first section is %1, not &quot;tavolux&quot;, so nothing in the file is found</source>
+        <translation>der erste Abschnitt ist %1, nicht &quot;tavolux&quot;; daher wird nichts in der Datei gefunden</translation>
+    </message>
+    <message>
+        <source>%1 is no section of %2 that is ever read%3</source>
+        <translation>%1 ist kein Abschnitt von %2, der je gelesen wird%3</translation>
+    </message>
+    <message>
+        <source>the section %1 is given twice, first in line %2; of each setting the first that is not empty counts</source>
+        <translation>der Abschnitt %1 steht zweimal da, zuerst in Zeile %2; von jeder Einstellung zählt die erste, die nicht leer ist</translation>
+    </message>
+    <message>
+        <source>%1 is set outside of any section, where it is never found</source>
+        <translation>%1 steht außerhalb aller Abschnitte, wo es nie gefunden wird</translation>
+    </message>
+    <message>
+        <source>the value of %1 runs to the end of the file; is a semicolon missing?</source>
+        <translation>der Wert von %1 reicht bis zum Ende der Datei; fehlt ein Semikolon?</translation>
+    </message>
+    <message>
+        <source>the value of %1 takes in %2; is a semicolon missing?</source>
+        <translation>der Wert von %1 nimmt %2 mit auf; fehlt ein Semikolon?</translation>
+    </message>
+    <message>
+        <source>%1 is no setting of %2 that is ever read%3</source>
+        <translation>%1 ist keine Einstellung von %2, die je gelesen wird%3</translation>
+    </message>
+    <message>
+        <source>%1 is given twice, first in line %2; the last one counts</source>
+        <translation>%1 steht zweimal da, zuerst in Zeile %2; die letzte Angabe zählt</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 is taken for one name</source>
+        <translation>das Format kennt keine Kommentare: %1 gilt als ein Name</translation>
+    </message>
+    <message>
+        <source>%1 is taken for one name; is something missing in it?</source>
+        <translation>%1 gilt als ein Name; fehlt etwas darin?</translation>
+    </message>
+    <message>
+        <source>this is UTF-8, but the file is read as Latin-1: %1</source>
+        <translation>das ist UTF-8, aber die Datei wird als Latin-1 gelesen: %1</translation>
+    </message>
+    <message>
+        <source>characters outside of Latin-1 are read as question marks: %1</source>
+        <translation>Zeichen außerhalb von Latin-1 werden als Fragezeichen gelesen: %1</translation>
+    </message>
+    <message>
+        <source>%1 names no model, so it prints plain text</source>
+        <translation>%1 nennt kein Modell und druckt daher reinen Text</translation>
+    </message>
+    <message>
+        <source>%1 names no output, so no document comes to it</source>
+        <translation>%1 nennt keine Ausgabe; daher kommt kein Dokument dorthin</translation>
+    </message>
+    <message>
+        <source>no document comes to %1: the printers before it have all of its outputs</source>
+        <translation>zu %1 kommt kein Dokument: Die Drucker davor haben alle seine Ausgaben</translation>
+    </message>
+    <message>
+        <source>&quot;paperWidth&quot; is %1, more than the %2 columns of the printer %3</source>
+        <translation>&quot;paperWidth&quot; ist %1, mehr als die %2 Spalten des Druckers %3</translation>
+    </message>
+    <message>
+        <source>the logo %1 is not printed: %2</source>
+        <translation>das Logo %1 wird nicht gedruckt: %2</translation>
+    </message>
+    <message>
+        <source>%1 (comes out as %2)</source>
+        <translation>%1 (erscheint als %2)</translation>
+    </message>
+    <message>
+        <source>the labels have characters that no code page of the printer %1 has: %2</source>
+        <translation>die Texte haben Zeichen, die keine Codepage des Druckers %1 hat: %2</translation>
+    </message>
+    <message>
+        <source>%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3</source>
+        <translation>%1 lässt keinen Platz für Beschreibungen: Von %2 Zeichen in einer Zeile nehmen die anderen Spalten %3</translation>
+    </message>
+    <message>
+        <source>the translation &quot;%1&quot; is not found</source>
+        <translation>die Übersetzung &quot;%1&quot; wird nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not %3</source>
+        <translation>%1 ist %2; erwartet wird: %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;, so it is off</source>
+        <translation>%1 ist %2, weder &quot;true&quot; noch &quot;false&quot;, und daher aus</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no usable whole number, so it counts as 0</source>
+        <translation>%1 ist %2, keine brauchbare ganze Zahl, und zählt daher als 0</translation>
+    </message>
+    <message>
+        <source>%1 is %2, a negative number</source>
+        <translation>%1 ist %2, eine negative Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is %2, more than any paper holds</source>
+        <translation>%1 ist %2, mehr als auf irgendein Papier passt</translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the title %3 has %4 characters, so it pushes its row wider</source>
+        <translation>%1 ist %2, aber der Titel %3 hat %4 Zeichen und macht daher seine Zeile breiter</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it is cut</source>
+        <translation>der Text %1 hat %2 Zeichen, aber %3 in seiner Spalte, und wird daher abgeschnitten</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it moves its figure</source>
+        <translation>der Text %1 hat %2 Zeichen, aber %3 in seiner Spalte, und verschiebt daher seine Zahl</translation>
+    </message>
+    <message>
+        <source>this is no well-formed XML, so nothing in it is read: %1</source>
+        <translation>das ist kein wohlgeformtes XML; daher wird nichts darin gelesen: %1</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so nothing in the file is read</source>
+        <translation>Abschnitte sind tiefer als %1 verschachtelt; daher wird nichts in der Datei gelesen</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with its root element but with a declaration or a comment, so nothing in it is found</source>
+        <translation>sie beginnt nicht mit ihrem Wurzelelement, sondern mit einer Deklaration oder einem Kommentar; daher wird nichts darin gefunden</translation>
+    </message>
+    <message>
+        <source>it is in UTF-16, and only UTF-8 can be changed in place</source>
+        <translation>sie ist in UTF-16, und nur UTF-8 kann an Ort und Stelle geändert werden</translation>
+    </message>
+    <message>
+        <source>%1 is no name that could be looked up</source>
+        <translation>%1 ist kein Name, der nachgeschlagen werden könnte</translation>
+    </message>
+    <message>
+        <source>the value %1 has characters outside of Latin-1, which would be lost</source>
+        <translation>der Wert %1 hat Zeichen außerhalb von Latin-1, die verloren gingen</translation>
+    </message>
+    <message>
+        <source>a value cannot have a semicolon: %1</source>
+        <translation>ein Wert kann kein Semikolon enthalten: %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have a double quote: %1</source>
+        <translation>ein Wert kann kein Anführungszeichen enthalten: %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have control characters: %1</source>
+        <translation>ein Wert kann keine Steuerzeichen enthalten: %1</translation>
+    </message>
+    <message>
+        <source>sections nest %1 deep at most</source>
+        <translation>Abschnitte sind höchstens %1 tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>line %1: no opening brace follows the section %2</source>
+        <translation>Zeile %1: Auf den Abschnitt %2 folgt keine öffnende Klammer</translation>
+    </message>
+    <message>
+        <source>line %1: the section %2 is not closed</source>
+        <translation>Zeile %1: Der Abschnitt %2 ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>a file of the kind xml has one root element, and no place beside it</source>
+        <translation>eine Datei der Art xml hat ein einziges Wurzelelement und keinen Platz daneben</translation>
+    </message>
+    <message>
+        <source>in a file of the kind xml every setting is an attribute of an element</source>
+        <translation>in einer Datei der Art xml ist jede Einstellung ein Attribut eines Elements</translation>
+    </message>
+    <message>
+        <source>the root of the file stays</source>
+        <translation>die Wurzel der Datei bleibt</translation>
+    </message>
+    <message>
+        <source>the end of the section %1, from line %2 on, is not plain, so it is not known what would go with it</source>
+        <translation>das Ende des Abschnitts %1, ab Zeile %2, ist nicht eindeutig; daher ist nicht bekannt, was mit ihm verschwände</translation>
+    </message>
+    <message>
+        <source>%1 is no key that could be looked up</source>
+        <translation>%1 ist kein Schlüssel, der nachgeschlagen werden könnte</translation>
+    </message>
+    <message>
+        <source>the first section is %1, and no other is ever read</source>
+        <translation>der erste Abschnitt ist %1, und kein anderer wird je gelesen</translation>
+    </message>
+    <message>
+        <source>the name of a model</source>
+        <translation>der Name eines Modells</translation>
+    </message>
+    <message>
+        <source>a list of names and patterns</source>
+        <translation>eine Liste von Namen und Mustern</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 255</source>
+        <translation>eine Zahl von 1 bis 255</translation>
+    </message>
+    <message>
+        <source>a list of code pages with their numbers</source>
+        <translation>eine Liste von Codepages mit ihren Nummern</translation>
+    </message>
+    <message>
+        <source>full, partial or none</source>
+        <translation>full, partial oder none</translation>
+    </message>
+    <message>
+        <source>a number from 0 to 255</source>
+        <translation>eine Zahl von 0 bis 255</translation>
+    </message>
+    <message>
+        <source>2 or 5</source>
+        <translation>2 oder 5</translation>
+    </message>
+    <message>
+        <source>two times from 2 to 510 ms</source>
+        <translation>zwei Zeiten von 2 bis 510 ms</translation>
+    </message>
+    <message>
+        <source>a PNG file, or stored: with a number from 1 to 255</source>
+        <translation>eine PNG-Datei, oder stored: mit einer Zahl von 1 bis 255</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+</context>
+<context>
     <name>FindingsPane</name>
     <message>
         <source>&amp;Findings</source>

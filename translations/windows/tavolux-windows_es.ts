@@ -249,6 +249,293 @@ Edita la configuración de tavolux-printer, que imprime los documentos de un res
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>; did you mean %1?</source>
+        <translation>; ¿quería decir %1?</translation>
+    </message>
+    <message>
+        <source>this looks like XML, which --type xml checks; the printing program reads cfg alone</source>
+        <translation>esto parece XML, que se comprueba con --type xml; el programa de impresión solo lee cfg</translation>
+    </message>
+    <message>
+        <source>the first node is not the root element but a declaration or a comment, so nothing in the file is found</source>
+        <translation>el primer nodo no es el elemento raíz, sino una declaración o un comentario, así que no se encuentra nada del archivo</translation>
+    </message>
+    <message>
+        <source>the section %1 is not closed</source>
+        <translation>la sección %1 no está cerrada</translation>
+    </message>
+    <message>
+        <source>there is no section &quot;tavolux&quot; with settings in it, so nothing is found</source>
+        <translation>no hay ninguna sección &quot;tavolux&quot; con ajustes, así que no se encuentra nada</translation>
+    </message>
+    <message>
+        <source>%1 is passed over; is a semicolon or a brace missing before it?</source>
+        <translation>%1 se pasa por alto; ¿falta antes un punto y coma o una llave?</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 belongs to no setting and is passed over</source>
+        <translation>el formato no tiene comentarios: %1 no pertenece a ningún ajuste y se pasa por alto</translation>
+    </message>
+    <message>
+        <source>%1 belongs to no setting and is passed over</source>
+        <translation>%1 no pertenece a ningún ajuste y se pasa por alto</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so the reading ends here</source>
+        <translation>hay secciones anidadas a más de %1 niveles, así que la lectura termina aquí</translation>
+    </message>
+    <message>
+        <source>no opening brace follows the section %1</source>
+        <translation>a la sección %1 no le sigue ninguna llave de apertura</translation>
+    </message>
+    <message>
+        <source>a section without a name is never read</source>
+        <translation>una sección sin nombre no se lee nunca</translation>
+    </message>
+    <message>
+        <source>a closing brace that closes no section ends the reading here</source>
+        <translation>una llave de cierre que no cierra ninguna sección termina aquí la lectura</translation>
+    </message>
+    <message>
+        <source>the section %1 is never read: only the first one, %2, is</source>
+        <translation>la sección %1 no se lee nunca: solo se lee la primera, %2</translation>
+    </message>
+    <message>
+        <source>the first section is %1, not &quot;tavolux&quot;, so nothing in the file is found</source>
+        <translation>la primera sección es %1, no &quot;tavolux&quot;, así que no se encuentra nada del archivo</translation>
+    </message>
+    <message>
+        <source>%1 is no section of %2 that is ever read%3</source>
+        <translation>%1 no es ninguna sección de %2 que se lea%3</translation>
+    </message>
+    <message>
+        <source>the section %1 is given twice, first in line %2; of each setting the first that is not empty counts</source>
+        <translation>la sección %1 aparece dos veces, primero en la línea %2; de cada ajuste vale el primero que no está vacío</translation>
+    </message>
+    <message>
+        <source>%1 is set outside of any section, where it is never found</source>
+        <translation>%1 está fuera de toda sección, donde no se encuentra nunca</translation>
+    </message>
+    <message>
+        <source>the value of %1 runs to the end of the file; is a semicolon missing?</source>
+        <translation>el valor de %1 llega hasta el final del archivo; ¿falta un punto y coma?</translation>
+    </message>
+    <message>
+        <source>the value of %1 takes in %2; is a semicolon missing?</source>
+        <translation>el valor de %1 abarca %2; ¿falta un punto y coma?</translation>
+    </message>
+    <message>
+        <source>%1 is no setting of %2 that is ever read%3</source>
+        <translation>%1 no es ningún ajuste de %2 que se lea%3</translation>
+    </message>
+    <message>
+        <source>%1 is given twice, first in line %2; the last one counts</source>
+        <translation>%1 aparece dos veces, primero en la línea %2; vale la última</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 is taken for one name</source>
+        <translation>el formato no tiene comentarios: %1 se toma por un solo nombre</translation>
+    </message>
+    <message>
+        <source>%1 is taken for one name; is something missing in it?</source>
+        <translation>%1 se toma por un solo nombre; ¿falta algo en él?</translation>
+    </message>
+    <message>
+        <source>this is UTF-8, but the file is read as Latin-1: %1</source>
+        <translation>esto es UTF-8, pero el archivo se lee como Latin-1: %1</translation>
+    </message>
+    <message>
+        <source>characters outside of Latin-1 are read as question marks: %1</source>
+        <translation>los caracteres fuera de Latin-1 se leen como signos de interrogación: %1</translation>
+    </message>
+    <message>
+        <source>%1 names no model, so it prints plain text</source>
+        <translation>%1 no nombra ningún modelo, así que imprime texto puro</translation>
+    </message>
+    <message>
+        <source>%1 names no output, so no document comes to it</source>
+        <translation>%1 no nombra ninguna salida, así que no le llega ningún documento</translation>
+    </message>
+    <message>
+        <source>no document comes to %1: the printers before it have all of its outputs</source>
+        <translation>a %1 no le llega ningún documento: las impresoras anteriores tienen todas sus salidas</translation>
+    </message>
+    <message>
+        <source>&quot;paperWidth&quot; is %1, more than the %2 columns of the printer %3</source>
+        <translation>&quot;paperWidth&quot; es %1, más que las %2 columnas de la impresora %3</translation>
+    </message>
+    <message>
+        <source>the logo %1 is not printed: %2</source>
+        <translation>el logotipo %1 no se imprime: %2</translation>
+    </message>
+    <message>
+        <source>%1 (comes out as %2)</source>
+        <translation>%1 (sale como %2)</translation>
+    </message>
+    <message>
+        <source>the labels have characters that no code page of the printer %1 has: %2</source>
+        <translation>los textos tienen caracteres que ninguna página de códigos de la impresora %1 tiene: %2</translation>
+    </message>
+    <message>
+        <source>%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3</source>
+        <translation>%1 no deja sitio para las descripciones: de %2 caracteres por línea las otras columnas ocupan %3</translation>
+    </message>
+    <message>
+        <source>the translation &quot;%1&quot; is not found</source>
+        <translation>no se encuentra la traducción &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not %3</source>
+        <translation>%1 es %2; se espera: %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;, so it is off</source>
+        <translation>%1 es %2, ni &quot;true&quot; ni &quot;false&quot;, así que está desactivado</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no usable whole number, so it counts as 0</source>
+        <translation>%1 es %2, que no es un número entero utilizable, así que cuenta como 0</translation>
+    </message>
+    <message>
+        <source>%1 is %2, a negative number</source>
+        <translation>%1 es %2, un número negativo</translation>
+    </message>
+    <message>
+        <source>%1 is %2, more than any paper holds</source>
+        <translation>%1 es %2, más de lo que cabe en ningún papel</translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the title %3 has %4 characters, so it pushes its row wider</source>
+        <translation>%1 es %2, pero el título %3 tiene %4 caracteres, así que ensancha su línea</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it is cut</source>
+        <translation>el texto %1 tiene %2 caracteres, pero %3 en su columna, así que se corta</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it moves its figure</source>
+        <translation>el texto %1 tiene %2 caracteres, pero %3 en su columna, así que desplaza su cifra</translation>
+    </message>
+    <message>
+        <source>this is no well-formed XML, so nothing in it is read: %1</source>
+        <translation>esto no es XML bien formado, así que no se lee nada de él: %1</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so nothing in the file is read</source>
+        <translation>hay secciones anidadas a más de %1 niveles, así que no se lee nada del archivo</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with its root element but with a declaration or a comment, so nothing in it is found</source>
+        <translation>no empieza por su elemento raíz, sino por una declaración o un comentario, así que no se encuentra nada en él</translation>
+    </message>
+    <message>
+        <source>it is in UTF-16, and only UTF-8 can be changed in place</source>
+        <translation>está en UTF-16, y solo UTF-8 se puede cambiar en el sitio</translation>
+    </message>
+    <message>
+        <source>%1 is no name that could be looked up</source>
+        <translation>%1 no es un nombre que se pueda buscar</translation>
+    </message>
+    <message>
+        <source>the value %1 has characters outside of Latin-1, which would be lost</source>
+        <translation>el valor %1 tiene caracteres fuera de Latin-1, que se perderían</translation>
+    </message>
+    <message>
+        <source>a value cannot have a semicolon: %1</source>
+        <translation>un valor no puede llevar un punto y coma: %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have a double quote: %1</source>
+        <translation>un valor no puede llevar comillas dobles: %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have control characters: %1</source>
+        <translation>un valor no puede llevar caracteres de control: %1</translation>
+    </message>
+    <message>
+        <source>sections nest %1 deep at most</source>
+        <translation>las secciones se anidan hasta %1 niveles como máximo</translation>
+    </message>
+    <message>
+        <source>line %1: no opening brace follows the section %2</source>
+        <translation>línea %1: a la sección %2 no le sigue ninguna llave de apertura</translation>
+    </message>
+    <message>
+        <source>line %1: the section %2 is not closed</source>
+        <translation>línea %1: la sección %2 no está cerrada</translation>
+    </message>
+    <message>
+        <source>a file of the kind xml has one root element, and no place beside it</source>
+        <translation>un archivo de tipo xml tiene un solo elemento raíz, y ningún sitio a su lado</translation>
+    </message>
+    <message>
+        <source>in a file of the kind xml every setting is an attribute of an element</source>
+        <translation>en un archivo de tipo xml cada ajuste es un atributo de un elemento</translation>
+    </message>
+    <message>
+        <source>the root of the file stays</source>
+        <translation>la raíz del archivo se queda</translation>
+    </message>
+    <message>
+        <source>the end of the section %1, from line %2 on, is not plain, so it is not known what would go with it</source>
+        <translation>el final de la sección %1, desde la línea %2, no está claro, así que no se sabe qué se iría con ella</translation>
+    </message>
+    <message>
+        <source>%1 is no key that could be looked up</source>
+        <translation>%1 no es una clave que se pueda buscar</translation>
+    </message>
+    <message>
+        <source>the first section is %1, and no other is ever read</source>
+        <translation>la primera sección es %1, y no se lee ninguna otra</translation>
+    </message>
+    <message>
+        <source>the name of a model</source>
+        <translation>el nombre de un modelo</translation>
+    </message>
+    <message>
+        <source>a list of names and patterns</source>
+        <translation>una lista de nombres y patrones</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 255</source>
+        <translation>un número de 1 a 255</translation>
+    </message>
+    <message>
+        <source>a list of code pages with their numbers</source>
+        <translation>una lista de páginas de códigos con sus números</translation>
+    </message>
+    <message>
+        <source>full, partial or none</source>
+        <translation>full, partial o none</translation>
+    </message>
+    <message>
+        <source>a number from 0 to 255</source>
+        <translation>un número de 0 a 255</translation>
+    </message>
+    <message>
+        <source>2 or 5</source>
+        <translation>2 o 5</translation>
+    </message>
+    <message>
+        <source>two times from 2 to 510 ms</source>
+        <translation>dos tiempos de 2 a 510 ms</translation>
+    </message>
+    <message>
+        <source>a PNG file, or stored: with a number from 1 to 255</source>
+        <translation>un archivo PNG, o stored: con un número de 1 a 255</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true o false</translation>
+    </message>
+</context>
+<context>
     <name>FindingsPane</name>
     <message>
         <source>&amp;Findings</source>

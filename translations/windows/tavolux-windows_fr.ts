@@ -249,6 +249,293 @@ Modifie la configuration de tavolux-printer, qui imprime les documents d’un re
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>; did you mean %1?</source>
+        <translation> ; vouliez-vous dire %1 ?</translation>
+    </message>
+    <message>
+        <source>this looks like XML, which --type xml checks; the printing program reads cfg alone</source>
+        <translation>cela ressemble à du XML, que --type xml vérifie ; le programme d’impression ne lit que le cfg</translation>
+    </message>
+    <message>
+        <source>the first node is not the root element but a declaration or a comment, so nothing in the file is found</source>
+        <translation>le premier nœud n’est pas l’élément racine mais une déclaration ou un commentaire : rien n’est trouvé dans le fichier</translation>
+    </message>
+    <message>
+        <source>the section %1 is not closed</source>
+        <translation>la section %1 n’est pas fermée</translation>
+    </message>
+    <message>
+        <source>there is no section &quot;tavolux&quot; with settings in it, so nothing is found</source>
+        <translation>il n’y a pas de section &quot;tavolux&quot; contenant des réglages : rien n’est trouvé</translation>
+    </message>
+    <message>
+        <source>%1 is passed over; is a semicolon or a brace missing before it?</source>
+        <translation>%1 est ignoré ; manque-t-il un point-virgule ou une accolade avant ?</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 belongs to no setting and is passed over</source>
+        <translation>le format n’a pas de commentaires : %1 n’appartient à aucun réglage et est ignoré</translation>
+    </message>
+    <message>
+        <source>%1 belongs to no setting and is passed over</source>
+        <translation>%1 n’appartient à aucun réglage et est ignoré</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so the reading ends here</source>
+        <translation>des sections sont imbriquées sur plus de %1 niveaux : la lecture s’arrête ici</translation>
+    </message>
+    <message>
+        <source>no opening brace follows the section %1</source>
+        <translation>aucune accolade ouvrante ne suit la section %1</translation>
+    </message>
+    <message>
+        <source>a section without a name is never read</source>
+        <translation>une section sans nom n’est jamais lue</translation>
+    </message>
+    <message>
+        <source>a closing brace that closes no section ends the reading here</source>
+        <translation>une accolade fermante qui ne ferme aucune section arrête la lecture ici</translation>
+    </message>
+    <message>
+        <source>the section %1 is never read: only the first one, %2, is</source>
+        <translation>la section %1 n’est jamais lue : seule la première, %2, l’est</translation>
+    </message>
+    <message>
+        <source>the first section is %1, not &quot;tavolux&quot;, so nothing in the file is found</source>
+        <translation>la première section est %1, et non &quot;tavolux&quot; : rien n’est trouvé dans le fichier</translation>
+    </message>
+    <message>
+        <source>%1 is no section of %2 that is ever read%3</source>
+        <translation>%1 n’est pas une section de %2 qui soit lue%3</translation>
+    </message>
+    <message>
+        <source>the section %1 is given twice, first in line %2; of each setting the first that is not empty counts</source>
+        <translation>la section %1 figure deux fois, d’abord à la ligne %2 ; de chaque réglage, le premier qui n’est pas vide compte</translation>
+    </message>
+    <message>
+        <source>%1 is set outside of any section, where it is never found</source>
+        <translation>%1 est en dehors de toute section, où il n’est jamais trouvé</translation>
+    </message>
+    <message>
+        <source>the value of %1 runs to the end of the file; is a semicolon missing?</source>
+        <translation>la valeur de %1 va jusqu’à la fin du fichier ; manque-t-il un point-virgule ?</translation>
+    </message>
+    <message>
+        <source>the value of %1 takes in %2; is a semicolon missing?</source>
+        <translation>la valeur de %1 englobe %2 ; manque-t-il un point-virgule ?</translation>
+    </message>
+    <message>
+        <source>%1 is no setting of %2 that is ever read%3</source>
+        <translation>%1 n’est pas un réglage de %2 qui soit lu%3</translation>
+    </message>
+    <message>
+        <source>%1 is given twice, first in line %2; the last one counts</source>
+        <translation>%1 figure deux fois, d’abord à la ligne %2 ; la dernière compte</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 is taken for one name</source>
+        <translation>le format n’a pas de commentaires : %1 est pris pour un seul nom</translation>
+    </message>
+    <message>
+        <source>%1 is taken for one name; is something missing in it?</source>
+        <translation>%1 est pris pour un seul nom ; y manque-t-il quelque chose ?</translation>
+    </message>
+    <message>
+        <source>this is UTF-8, but the file is read as Latin-1: %1</source>
+        <translation>c’est de l’UTF-8, mais le fichier est lu comme du Latin-1 : %1</translation>
+    </message>
+    <message>
+        <source>characters outside of Latin-1 are read as question marks: %1</source>
+        <translation>les caractères hors de Latin-1 sont lus comme des points d’interrogation : %1</translation>
+    </message>
+    <message>
+        <source>%1 names no model, so it prints plain text</source>
+        <translation>%1 ne nomme aucun modèle et imprime donc du texte pur</translation>
+    </message>
+    <message>
+        <source>%1 names no output, so no document comes to it</source>
+        <translation>%1 ne nomme aucune sortie : aucun document n’y arrive</translation>
+    </message>
+    <message>
+        <source>no document comes to %1: the printers before it have all of its outputs</source>
+        <translation>aucun document n’arrive à %1 : les imprimantes précédentes ont toutes ses sorties</translation>
+    </message>
+    <message>
+        <source>&quot;paperWidth&quot; is %1, more than the %2 columns of the printer %3</source>
+        <translation>&quot;paperWidth&quot; vaut %1, plus que les %2 colonnes de l’imprimante %3</translation>
+    </message>
+    <message>
+        <source>the logo %1 is not printed: %2</source>
+        <translation>le logo %1 n’est pas imprimé : %2</translation>
+    </message>
+    <message>
+        <source>%1 (comes out as %2)</source>
+        <translation>%1 (donne %2)</translation>
+    </message>
+    <message>
+        <source>the labels have characters that no code page of the printer %1 has: %2</source>
+        <translation>les textes ont des caractères qu’aucune page de code de l’imprimante %1 ne contient : %2</translation>
+    </message>
+    <message>
+        <source>%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3</source>
+        <translation>%1 ne laisse pas de place aux descriptions : sur %2 caractères par ligne, les autres colonnes en prennent %3</translation>
+    </message>
+    <message>
+        <source>the translation &quot;%1&quot; is not found</source>
+        <translation>la traduction &quot;%1&quot; est introuvable</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not %3</source>
+        <translation>%1 vaut %2 ; valeur attendue : %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;, so it is off</source>
+        <translation>%1 vaut %2, ni &quot;true&quot; ni &quot;false&quot;, et est donc désactivé</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no usable whole number, so it counts as 0</source>
+        <translation>%1 vaut %2, qui n’est pas un nombre entier utilisable, et compte donc pour 0</translation>
+    </message>
+    <message>
+        <source>%1 is %2, a negative number</source>
+        <translation>%1 vaut %2, un nombre négatif</translation>
+    </message>
+    <message>
+        <source>%1 is %2, more than any paper holds</source>
+        <translation>%1 vaut %2, plus que n’en contient aucun papier</translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the title %3 has %4 characters, so it pushes its row wider</source>
+        <translation>%1 vaut %2, mais le titre %3 a %4 caractères et élargit donc sa ligne</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it is cut</source>
+        <translation>le texte %1 a %2 caractères, mais %3 dans sa colonne : il est coupé</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it moves its figure</source>
+        <translation>le texte %1 a %2 caractères, mais %3 dans sa colonne : il déplace son chiffre</translation>
+    </message>
+    <message>
+        <source>this is no well-formed XML, so nothing in it is read: %1</source>
+        <translation>ce n’est pas du XML bien formé, rien n’en est lu : %1</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so nothing in the file is read</source>
+        <translation>des sections sont imbriquées sur plus de %1 niveaux : rien n’est lu dans le fichier</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with its root element but with a declaration or a comment, so nothing in it is found</source>
+        <translation>il ne commence pas par son élément racine mais par une déclaration ou un commentaire : rien n’y est trouvé</translation>
+    </message>
+    <message>
+        <source>it is in UTF-16, and only UTF-8 can be changed in place</source>
+        <translation>il est en UTF-16, et seul l’UTF-8 peut être modifié sur place</translation>
+    </message>
+    <message>
+        <source>%1 is no name that could be looked up</source>
+        <translation>%1 n’est pas un nom qui puisse être trouvé</translation>
+    </message>
+    <message>
+        <source>the value %1 has characters outside of Latin-1, which would be lost</source>
+        <translation>la valeur %1 a des caractères hors de Latin-1, qui seraient perdus</translation>
+    </message>
+    <message>
+        <source>a value cannot have a semicolon: %1</source>
+        <translation>une valeur ne peut pas contenir de point-virgule : %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have a double quote: %1</source>
+        <translation>une valeur ne peut pas contenir de guillemet droit : %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have control characters: %1</source>
+        <translation>une valeur ne peut pas contenir de caractères de contrôle : %1</translation>
+    </message>
+    <message>
+        <source>sections nest %1 deep at most</source>
+        <translation>les sections sont imbriquées sur %1 niveaux au plus</translation>
+    </message>
+    <message>
+        <source>line %1: no opening brace follows the section %2</source>
+        <translation>ligne %1 : aucune accolade ouvrante ne suit la section %2</translation>
+    </message>
+    <message>
+        <source>line %1: the section %2 is not closed</source>
+        <translation>ligne %1 : la section %2 n’est pas fermée</translation>
+    </message>
+    <message>
+        <source>a file of the kind xml has one root element, and no place beside it</source>
+        <translation>un fichier du type xml a un seul élément racine, et pas de place à côté</translation>
+    </message>
+    <message>
+        <source>in a file of the kind xml every setting is an attribute of an element</source>
+        <translation>dans un fichier du type xml, chaque réglage est un attribut d’un élément</translation>
+    </message>
+    <message>
+        <source>the root of the file stays</source>
+        <translation>la racine du fichier reste</translation>
+    </message>
+    <message>
+        <source>the end of the section %1, from line %2 on, is not plain, so it is not known what would go with it</source>
+        <translation>la fin de la section %1, à partir de la ligne %2, n’est pas claire : on ne sait pas ce qui partirait avec elle</translation>
+    </message>
+    <message>
+        <source>%1 is no key that could be looked up</source>
+        <translation>%1 n’est pas une clé qui puisse être trouvée</translation>
+    </message>
+    <message>
+        <source>the first section is %1, and no other is ever read</source>
+        <translation>la première section est %1, et aucune autre n’est jamais lue</translation>
+    </message>
+    <message>
+        <source>the name of a model</source>
+        <translation>le nom d’un modèle</translation>
+    </message>
+    <message>
+        <source>a list of names and patterns</source>
+        <translation>une liste de noms et de motifs</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 255</source>
+        <translation>un nombre de 1 à 255</translation>
+    </message>
+    <message>
+        <source>a list of code pages with their numbers</source>
+        <translation>une liste de pages de code avec leurs numéros</translation>
+    </message>
+    <message>
+        <source>full, partial or none</source>
+        <translation>full, partial ou none</translation>
+    </message>
+    <message>
+        <source>a number from 0 to 255</source>
+        <translation>un nombre de 0 à 255</translation>
+    </message>
+    <message>
+        <source>2 or 5</source>
+        <translation>2 ou 5</translation>
+    </message>
+    <message>
+        <source>two times from 2 to 510 ms</source>
+        <translation>deux durées de 2 à 510 ms</translation>
+    </message>
+    <message>
+        <source>a PNG file, or stored: with a number from 1 to 255</source>
+        <translation>un fichier PNG, ou stored: avec un nombre de 1 à 255</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true ou false</translation>
+    </message>
+</context>
+<context>
     <name>FindingsPane</name>
     <message>
         <source>&amp;Findings</source>

@@ -249,6 +249,293 @@ Modifica la configurazione di tavolux-printer, che stampa i documenti di un rist
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>; did you mean %1?</source>
+        <translation>; si intendeva %1?</translation>
+    </message>
+    <message>
+        <source>this looks like XML, which --type xml checks; the printing program reads cfg alone</source>
+        <translation>questo sembra XML, che si controlla con --type xml; il programma di stampa legge solo cfg</translation>
+    </message>
+    <message>
+        <source>the first node is not the root element but a declaration or a comment, so nothing in the file is found</source>
+        <translation>il primo nodo non è l’elemento radice ma una dichiarazione o un commento, quindi nel file non si trova niente</translation>
+    </message>
+    <message>
+        <source>the section %1 is not closed</source>
+        <translation>la sezione %1 non è chiusa</translation>
+    </message>
+    <message>
+        <source>there is no section &quot;tavolux&quot; with settings in it, so nothing is found</source>
+        <translation>non c’è una sezione &quot;tavolux&quot; con impostazioni, quindi non si trova niente</translation>
+    </message>
+    <message>
+        <source>%1 is passed over; is a semicolon or a brace missing before it?</source>
+        <translation>%1 viene ignorato; manca prima un punto e virgola o una parentesi graffa?</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 belongs to no setting and is passed over</source>
+        <translation>il formato non ha commenti: %1 non appartiene a nessuna impostazione e viene ignorato</translation>
+    </message>
+    <message>
+        <source>%1 belongs to no setting and is passed over</source>
+        <translation>%1 non appartiene a nessuna impostazione e viene ignorato</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so the reading ends here</source>
+        <translation>ci sono sezioni annidate oltre %1 livelli, quindi la lettura finisce qui</translation>
+    </message>
+    <message>
+        <source>no opening brace follows the section %1</source>
+        <translation>la sezione %1 non è seguita da una parentesi graffa aperta</translation>
+    </message>
+    <message>
+        <source>a section without a name is never read</source>
+        <translation>una sezione senza nome non viene mai letta</translation>
+    </message>
+    <message>
+        <source>a closing brace that closes no section ends the reading here</source>
+        <translation>una parentesi graffa chiusa che non chiude nessuna sezione fa finire qui la lettura</translation>
+    </message>
+    <message>
+        <source>the section %1 is never read: only the first one, %2, is</source>
+        <translation>la sezione %1 non viene mai letta: lo è solo la prima, %2</translation>
+    </message>
+    <message>
+        <source>the first section is %1, not &quot;tavolux&quot;, so nothing in the file is found</source>
+        <translation>la prima sezione è %1, non &quot;tavolux&quot;, quindi nel file non si trova niente</translation>
+    </message>
+    <message>
+        <source>%1 is no section of %2 that is ever read%3</source>
+        <translation>%1 non è una sezione di %2 che venga letta%3</translation>
+    </message>
+    <message>
+        <source>the section %1 is given twice, first in line %2; of each setting the first that is not empty counts</source>
+        <translation>la sezione %1 compare due volte, prima alla riga %2; di ogni impostazione vale la prima che non è vuota</translation>
+    </message>
+    <message>
+        <source>%1 is set outside of any section, where it is never found</source>
+        <translation>%1 è fuori da ogni sezione, dove non si trova mai</translation>
+    </message>
+    <message>
+        <source>the value of %1 runs to the end of the file; is a semicolon missing?</source>
+        <translation>il valore di %1 arriva fino alla fine del file; manca un punto e virgola?</translation>
+    </message>
+    <message>
+        <source>the value of %1 takes in %2; is a semicolon missing?</source>
+        <translation>il valore di %1 comprende %2; manca un punto e virgola?</translation>
+    </message>
+    <message>
+        <source>%1 is no setting of %2 that is ever read%3</source>
+        <translation>%1 non è un’impostazione di %2 che venga letta%3</translation>
+    </message>
+    <message>
+        <source>%1 is given twice, first in line %2; the last one counts</source>
+        <translation>%1 compare due volte, prima alla riga %2; vale l’ultima</translation>
+    </message>
+    <message>
+        <source>the format has no comments: %1 is taken for one name</source>
+        <translation>il formato non ha commenti: %1 viene preso per un solo nome</translation>
+    </message>
+    <message>
+        <source>%1 is taken for one name; is something missing in it?</source>
+        <translation>%1 viene preso per un solo nome; manca qualcosa?</translation>
+    </message>
+    <message>
+        <source>this is UTF-8, but the file is read as Latin-1: %1</source>
+        <translation>questo è UTF-8, ma il file viene letto come Latin-1: %1</translation>
+    </message>
+    <message>
+        <source>characters outside of Latin-1 are read as question marks: %1</source>
+        <translation>i caratteri fuori da Latin-1 vengono letti come punti interrogativi: %1</translation>
+    </message>
+    <message>
+        <source>%1 names no model, so it prints plain text</source>
+        <translation>%1 non indica un modello, quindi stampa testo puro</translation>
+    </message>
+    <message>
+        <source>%1 names no output, so no document comes to it</source>
+        <translation>%1 non indica un’uscita, quindi non vi arriva nessun documento</translation>
+    </message>
+    <message>
+        <source>no document comes to %1: the printers before it have all of its outputs</source>
+        <translation>a %1 non arriva nessun documento: le stampanti precedenti hanno tutte le sue uscite</translation>
+    </message>
+    <message>
+        <source>&quot;paperWidth&quot; is %1, more than the %2 columns of the printer %3</source>
+        <translation>&quot;paperWidth&quot; è %1, più delle %2 colonne della stampante %3</translation>
+    </message>
+    <message>
+        <source>the logo %1 is not printed: %2</source>
+        <translation>il logo %1 non si stampa: %2</translation>
+    </message>
+    <message>
+        <source>%1 (comes out as %2)</source>
+        <translation>%1 (esce come %2)</translation>
+    </message>
+    <message>
+        <source>the labels have characters that no code page of the printer %1 has: %2</source>
+        <translation>le etichette hanno caratteri che nessuna code page della stampante %1 ha: %2</translation>
+    </message>
+    <message>
+        <source>%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3</source>
+        <translation>%1 non lascia spazio alle descrizioni: di %2 caratteri per riga le altre colonne ne prendono %3</translation>
+    </message>
+    <message>
+        <source>the translation &quot;%1&quot; is not found</source>
+        <translation>la traduzione &quot;%1&quot; non si trova</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not %3</source>
+        <translation>%1 è %2; valore atteso: %3</translation>
+    </message>
+    <message>
+        <source>%1 is %2, neither &quot;true&quot; nor &quot;false&quot;, so it is off</source>
+        <translation>%1 è %2, né &quot;true&quot; né &quot;false&quot;, quindi è disattivato</translation>
+    </message>
+    <message>
+        <source>%1 is %2, no usable whole number, so it counts as 0</source>
+        <translation>%1 è %2, che non è un numero intero utilizzabile, quindi conta come 0</translation>
+    </message>
+    <message>
+        <source>%1 is %2, a negative number</source>
+        <translation>%1 è %2, un numero negativo</translation>
+    </message>
+    <message>
+        <source>%1 is %2, more than any paper holds</source>
+        <translation>%1 è %2, più di quanto stia su qualsiasi carta</translation>
+    </message>
+    <message>
+        <source>%1 is %2, but the title %3 has %4 characters, so it pushes its row wider</source>
+        <translation>%1 è %2, ma il titolo %3 ha %4 caratteri, quindi allarga la sua riga</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it is cut</source>
+        <translation>l’etichetta %1 ha %2 caratteri, ma %3 nella sua colonna, quindi viene tagliata</translation>
+    </message>
+    <message>
+        <source>the label %1 has %2 characters, but %3 in its column, so it moves its figure</source>
+        <translation>l’etichetta %1 ha %2 caratteri, ma %3 nella sua colonna, quindi sposta la sua cifra</translation>
+    </message>
+    <message>
+        <source>this is no well-formed XML, so nothing in it is read: %1</source>
+        <translation>questo non è XML ben formato, quindi non se ne legge niente: %1</translation>
+    </message>
+    <message>
+        <source>sections nest deeper than %1, so nothing in the file is read</source>
+        <translation>ci sono sezioni annidate oltre %1 livelli, quindi del file non si legge niente</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>riga %1: %2</translation>
+    </message>
+    <message>
+        <source>it does not begin with its root element but with a declaration or a comment, so nothing in it is found</source>
+        <translation>non comincia con il suo elemento radice ma con una dichiarazione o un commento, quindi non vi si trova niente</translation>
+    </message>
+    <message>
+        <source>it is in UTF-16, and only UTF-8 can be changed in place</source>
+        <translation>è in UTF-16, e solo UTF-8 si può cambiare sul posto</translation>
+    </message>
+    <message>
+        <source>%1 is no name that could be looked up</source>
+        <translation>%1 non è un nome che si possa trovare</translation>
+    </message>
+    <message>
+        <source>the value %1 has characters outside of Latin-1, which would be lost</source>
+        <translation>il valore %1 ha caratteri fuori da Latin-1, che andrebbero persi</translation>
+    </message>
+    <message>
+        <source>a value cannot have a semicolon: %1</source>
+        <translation>un valore non può avere un punto e virgola: %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have a double quote: %1</source>
+        <translation>un valore non può avere virgolette doppie: %1</translation>
+    </message>
+    <message>
+        <source>a value cannot have control characters: %1</source>
+        <translation>un valore non può avere caratteri di controllo: %1</translation>
+    </message>
+    <message>
+        <source>sections nest %1 deep at most</source>
+        <translation>le sezioni si annidano fino a %1 livelli al massimo</translation>
+    </message>
+    <message>
+        <source>line %1: no opening brace follows the section %2</source>
+        <translation>riga %1: la sezione %2 non è seguita da una parentesi graffa aperta</translation>
+    </message>
+    <message>
+        <source>line %1: the section %2 is not closed</source>
+        <translation>riga %1: la sezione %2 non è chiusa</translation>
+    </message>
+    <message>
+        <source>a file of the kind xml has one root element, and no place beside it</source>
+        <translation>un file di tipo xml ha un solo elemento radice, e nessun posto accanto</translation>
+    </message>
+    <message>
+        <source>in a file of the kind xml every setting is an attribute of an element</source>
+        <translation>in un file di tipo xml ogni impostazione è un attributo di un elemento</translation>
+    </message>
+    <message>
+        <source>the root of the file stays</source>
+        <translation>la radice del file resta</translation>
+    </message>
+    <message>
+        <source>the end of the section %1, from line %2 on, is not plain, so it is not known what would go with it</source>
+        <translation>la fine della sezione %1, dalla riga %2 in poi, non è chiara, quindi non si sa che cosa andrebbe via con essa</translation>
+    </message>
+    <message>
+        <source>%1 is no key that could be looked up</source>
+        <translation>%1 non è una chiave che si possa trovare</translation>
+    </message>
+    <message>
+        <source>the first section is %1, and no other is ever read</source>
+        <translation>la prima sezione è %1, e nessun’altra viene mai letta</translation>
+    </message>
+    <message>
+        <source>the name of a model</source>
+        <translation>il nome di un modello</translation>
+    </message>
+    <message>
+        <source>a list of names and patterns</source>
+        <translation>un elenco di nomi e modelli di nome</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 255</source>
+        <translation>un numero da 1 a 255</translation>
+    </message>
+    <message>
+        <source>a list of code pages with their numbers</source>
+        <translation>un elenco di code page con i loro numeri</translation>
+    </message>
+    <message>
+        <source>full, partial or none</source>
+        <translation>full, partial o none</translation>
+    </message>
+    <message>
+        <source>a number from 0 to 255</source>
+        <translation>un numero da 0 a 255</translation>
+    </message>
+    <message>
+        <source>2 or 5</source>
+        <translation>2 o 5</translation>
+    </message>
+    <message>
+        <source>two times from 2 to 510 ms</source>
+        <translation>due tempi da 2 a 510 ms</translation>
+    </message>
+    <message>
+        <source>a PNG file, or stored: with a number from 1 to 255</source>
+        <translation>un file PNG, o stored: con un numero da 1 a 255</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true o false</translation>
+    </message>
+</context>
+<context>
     <name>FindingsPane</name>
     <message>
         <source>&amp;Findings</source>

@@ -4,6 +4,7 @@
 #include "configuration_scan.h"
 #include "document_profile.h"
 #include "escpos_paper.h"
+#include "findings.h"
 #include "known_settings.h"
 #include "label_widths.h"
 #include "labels.h"
@@ -117,7 +118,7 @@ bool isUtf8ReadAsLatin1(const QString &text)
 QString suggestion(const QString &name, const QStringList &known)
 {
     const QString nearest = nearestName(name, known);
-    return nearest.isEmpty() ? QString() : u"; did you mean %1?"_s.arg(quoted(nearest));
+    return nearest.isEmpty() ? QString() : Findings::tr("; did you mean %1?").arg(quoted(nearest));
 }
 
 /* Whether every file that an output stands for is one of the earlier outputs, as far as that is plain. */
@@ -169,17 +170,18 @@ public:
         if (m_looksLikeXml)
             return {
                 {m_scan.statements.front().line,
-                 u"this looks like XML, which --type xml checks; the printing program reads cfg alone"_s}};
+                 Findings::tr(
+                     "this looks like XML, which --type xml checks; the printing program reads cfg alone")}};
         if (!m_scan.beginsWithRoot)
             add(1,
-                u"the first node is not the root element but a declaration or a comment, so nothing in the "
-                u"file is found"_s);
+                Findings::tr("the first node is not the root element but a declaration or a comment, so "
+                             "nothing in the file is found"));
         for (const Statement &statement : m_scan.statements)
             check(statement);
         for (const OpenSection &section : m_open)
-            add(section.line, u"the section %1 is not closed"_s.arg(quoted(section.name)));
+            add(section.line, Findings::tr("the section %1 is not closed").arg(quoted(section.name)));
         if (m_firstSection.isEmpty())
-            add(0, u"there is no section \"tavolux\" with settings in it, so nothing is found"_s);
+            add(0, Findings::tr("there is no section \"tavolux\" with settings in it, so nothing is found"));
         checkPrinters();
         checkColumns();
         checkTranslation();
@@ -224,17 +226,18 @@ private:
             // A plain remark may well be meant to be passed over.
             if (containsAny(statement.name, u"=:;{}"))
                 add(statement.line,
-                    u"%1 is passed over; is a semicolon or a brace missing before it?"_s.arg(
-                        quoted(statement.name)));
+                    Findings::tr("%1 is passed over; is a semicolon or a brace missing before it?")
+                        .arg(quoted(statement.name)));
             break;
         case Kind::remark:
             break;
         case Kind::leftoverText:
             add(statement.line,
                 m_kind == "cfg"_L1 && commentLine(statement.name)
-                    ? u"the format has no comments: %1 belongs to no setting and is passed over"_s.arg(
-                        quoted(statement.name))
-                    : u"%1 belongs to no setting and is passed over"_s.arg(quoted(statement.name)));
+                    ? Findings::tr("the format has no comments: %1 belongs to no setting and is passed over")
+                          .arg(quoted(statement.name))
+                    : Findings::tr("%1 belongs to no setting and is passed over")
+                          .arg(quoted(statement.name)));
             break;
         }
     }
@@ -244,17 +247,18 @@ private:
         enterTopSection();
         if (m_open.size() == libconfig::Config::maximumNesting) {
             add(statement.line,
-                u"sections nest deeper than %1, so the reading ends here"_s.arg(
-                    libconfig::Config::maximumNesting));
+                Findings::tr("sections nest deeper than %1, so the reading ends here")
+                    .arg(libconfig::Config::maximumNesting));
             m_open.clear();
             return;
         }
 
         OpenSection section{statement.name, statement.name, statement.line};
         if (!statement.complete)
-            add(section.line, u"no opening brace follows the section %1"_s.arg(quoted(section.name)));
+            add(section.line,
+                Findings::tr("no opening brace follows the section %1").arg(quoted(section.name)));
         else if (section.name.isEmpty())
-            add(section.line, u"a section without a name is never read"_s);
+            add(section.line, Findings::tr("a section without a name is never read"));
         else if (isLegible(section.line, section.name) && !m_open.empty() && m_open.back().isRead)
             checkSection(section);
         if (statement.complete)
@@ -264,7 +268,7 @@ private:
     void endSection(int line)
     {
         if (m_open.empty())
-            add(line, u"a closing brace that closes no section ends the reading here"_s);
+            add(line, Findings::tr("a closing brace that closes no section ends the reading here"));
         else
             m_open.pop_back();
     }
@@ -278,8 +282,8 @@ private:
         OpenSection &section = m_open.front();
         if (!m_firstSection.isEmpty()) {
             add(section.line,
-                u"the section %1 is never read: only the first one, %2, is"_s.arg(quoted(section.name),
-                                                                                  quoted(m_firstSection)),
+                Findings::tr("the section %1 is never read: only the first one, %2, is")
+                    .arg(quoted(section.name), quoted(m_firstSection)),
                 section.name);
             return;
         }
@@ -288,8 +292,8 @@ private:
             section.isRead = true;
         else
             add(section.line,
-                u"the first section is %1, not \"tavolux\", so nothing in the file is found"_s.arg(
-                    quoted(section.name)),
+                Findings::tr("the first section is %1, not \"tavolux\", so nothing in the file is found")
+                    .arg(quoted(section.name)),
                 section.name);
     }
 
@@ -301,17 +305,19 @@ private:
         section.isRead = !section.name.contains(u'.') && isRead(section.path); // a dot would part its keys
         if (!section.isRead) {
             add(section.line,
-                u"%1 is no section of %2 that is ever read%3"_s.arg(
-                    quoted(section.name), quoted(parent.path),
-                    suggestion(section.name, namesOfSections(parent.path))),
+                Findings::tr("%1 is no section of %2 that is ever read%3")
+                    .arg(quoted(section.name), quoted(parent.path),
+                         suggestion(section.name, namesOfSections(parent.path))),
                 section.path);
             return;
         }
         m_lineOf.insert(section.path, m_lineOf.value(section.path, section.line));
         if (const auto earlier = earlierLine(parent.sectionLines, section.name, section.line))
             add(section.line,
-                u"the section %1 is given twice, first in line %2; of each setting the first that is not "
-                u"empty counts"_s.arg(quoted(section.path), QString::number(*earlier)),
+                Findings::tr(
+                    "the section %1 is given twice, first in line %2; of each setting the first that is not "
+                    "empty counts")
+                    .arg(quoted(section.path), QString::number(*earlier)),
                 section.path);
     }
 
@@ -322,13 +328,17 @@ private:
         const QString key = (m_open.empty() ? QString() : m_open.back().path + u'.') + setting.name;
         const bool legible = isLegible(setting.line, setting.name);
         if (m_open.empty())
-            add(setting.line, u"%1 is set outside of any section, where it is never found"_s.arg(name), key);
+            add(setting.line,
+                Findings::tr("%1 is set outside of any section, where it is never found").arg(name), key);
         if (!setting.complete)
             add(setting.line,
-                u"the value of %1 runs to the end of the file; is a semicolon missing?"_s.arg(name), key);
+                Findings::tr("the value of %1 runs to the end of the file; is a semicolon missing?")
+                    .arg(name),
+                key);
         if (m_kind == "cfg"_L1 && swallowsStatements(setting.value)) {
             add(setting.line,
-                u"the value of %1 takes in %2; is a semicolon missing?"_s.arg(name, quoted(setting.value)),
+                Findings::tr("the value of %1 takes in %2; is a semicolon missing?")
+                    .arg(name, quoted(setting.value)),
                 key);
             return;
         }
@@ -344,16 +354,16 @@ private:
             for (const KnownSetting *other : settingsOf(section.path))
                 names << other->name;
             add(setting.line,
-                u"%1 is no setting of %2 that is ever read%3"_s.arg(name, quoted(section.path),
-                                                                    suggestion(setting.name, names)),
+                Findings::tr("%1 is no setting of %2 that is ever read%3")
+                    .arg(name, quoted(section.path), suggestion(setting.name, names)),
                 key);
             return;
         }
         m_lineOf.insert(key, setting.line);
         if (const auto earlier = earlierLine(section.settingLines, setting.name, setting.line))
             add(setting.line,
-                u"%1 is given twice, first in line %2; the last one counts"_s.arg(name,
-                                                                                  QString::number(*earlier)),
+                Findings::tr("%1 is given twice, first in line %2; the last one counts")
+                    .arg(name, QString::number(*earlier)),
                 key);
         if (const QString fault = valueFault(*known, setting.value); !fault.isEmpty())
             add(setting.line, fault, key);
@@ -364,21 +374,25 @@ private:
     {
         checkCharacters(line, name);
         if (const auto comment = m_kind == "cfg"_L1 ? commentLine(name) : std::nullopt) {
-            add(line + *comment, u"the format has no comments: %1 is taken for one name"_s.arg(quoted(name)));
+            add(line + *comment,
+                Findings::tr("the format has no comments: %1 is taken for one name").arg(quoted(name)));
             return false;
         }
         if (isOnOneLine(name) && !containsAny(name, u"{;\""))
             return true;
-        add(line, u"%1 is taken for one name; is something missing in it?"_s.arg(quoted(name)));
+        add(line, Findings::tr("%1 is taken for one name; is something missing in it?").arg(quoted(name)));
         return false;
     }
 
     void checkCharacters(int line, const QString &text, const QString &key = {})
     {
         if (m_kind == "cfg"_L1 && isUtf8ReadAsLatin1(text))
-            add(line, u"this is UTF-8, but the file is read as Latin-1: %1"_s.arg(quoted(text)), key);
+            add(line, Findings::tr("this is UTF-8, but the file is read as Latin-1: %1").arg(quoted(text)),
+                key);
         if (m_kind == "xml"_L1 && std::ranges::any_of(text, [](QChar c) { return c.unicode() > 0xFF; }))
-            add(line, u"characters outside of Latin-1 are read as question marks: %1"_s.arg(quoted(text)),
+            add(line,
+                Findings::tr("characters outside of Latin-1 are read as question marks: %1")
+                    .arg(quoted(text)),
                 key);
     }
 
@@ -399,15 +413,17 @@ private:
             const PrinterSettings printer =
                 printerOfName(m_configuration, name, [](auto &&...) { /* told with their lines */ });
             if (value(section, "model"_L1).isEmpty())
-                addAt(section, u"%1 names no model, so it prints plain text"_s.arg(quoted(section)));
+                addAt(section,
+                      Findings::tr("%1 names no model, so it prints plain text").arg(quoted(section)));
             if (value(section, "output"_L1).isEmpty())
-                addAt(section, u"%1 names no output, so no document comes to it"_s.arg(quoted(section)));
+                addAt(section,
+                      Findings::tr("%1 names no output, so no document comes to it").arg(quoted(section)));
             else if (std::ranges::all_of(printer.outputs, [&](const QString &output) {
                          return isAmong(earlierOutputs, output);
                      }))
                 addAt(section,
-                      u"no document comes to %1: the printers before it have all of its outputs"_s.arg(
-                          quoted(section)));
+                      Findings::tr("no document comes to %1: the printers before it have all of its outputs")
+                          .arg(quoted(section)));
             earlierOutputs += printer.outputs;
             if (printer.model->isPlainText())
                 continue;
@@ -424,8 +440,8 @@ private:
             const QString width = value(section, "paperWidth"_L1);
             if (width.toInt() > printer.columns)
                 addAt(section + ".paperWidth"_L1,
-                      u"\"paperWidth\" is %1, more than the %2 columns of the printer %3"_s.arg(
-                          quoted(width), QString::number(printer.columns), quoted(printer.name)));
+                      Findings::tr("\"paperWidth\" is %1, more than the %2 columns of the printer %3")
+                          .arg(quoted(width), QString::number(printer.columns), quoted(printer.name)));
         }
     }
 
@@ -434,8 +450,9 @@ private:
         if (printer.storedLogo > 0 || printer.logoFile.isEmpty())
             return;
         if (const QString fault = EscposPaper::logoOf(printer).fault; !fault.isEmpty())
-            addAt(section + ".logo"_L1,
-                  u"the logo %1 is not printed: %2"_s.arg(quoted(value(section, "logo"_L1)), fault));
+            addAt(
+                section + ".logo"_L1,
+                Findings::tr("the logo %1 is not printed: %2").arg(quoted(value(section, "logo"_L1)), fault));
     }
 
     void checkLabels(const PrinterSettings &printer, const QString &characters)
@@ -454,12 +471,12 @@ private:
             QString shown;
             for (const Cell &cell : encoder.encode(line))
                 shown += QChar(cell.shown);
-            replaced.append(u"%1 (comes out as %2)"_s.arg(quoted(character), quoted(shown)));
+            replaced.append(Findings::tr("%1 (comes out as %2)").arg(quoted(character), quoted(shown)));
         }
         if (!replaced.isEmpty())
             addAt(printersKey + u'.' + printer.name,
-                  u"the labels have characters that no code page of the printer %1 has: %2"_s.arg(
-                      quoted(printer.name), replaced.join(", "_L1)));
+                  Findings::tr("the labels have characters that no code page of the printer %1 has: %2")
+                      .arg(quoted(printer.name), replaced.join(", "_L1)));
     }
 
     void checkLabelWidths(const QTranslator &labels)
@@ -497,11 +514,11 @@ private:
                 sectionPath(*std::ranges::find(documentTypes, typeName, &DocumentType::name));
             const DocumentProfile profile = profileOf(section);
             if (const int width = (profile.*descriptionWidth)(); width <= 0)
-                addAt(
-                    section,
-                    u"%1 leaves no room for descriptions: of %2 characters in a line the other columns take %3"_s
-                        .arg(quoted(section), QString::number(profile.paperWidth),
-                             QString::number(profile.paperWidth - width)));
+                addAt(section,
+                      Findings::tr("%1 leaves no room for descriptions: of %2 characters in a line the other "
+                                   "columns take %3")
+                          .arg(quoted(section), QString::number(profile.paperWidth),
+                               QString::number(profile.paperWidth - width)));
         }
     }
 
@@ -527,7 +544,7 @@ private:
             checkLabelWidths(translator);
             return;
         }
-        addAt(languageSection + ".file"_L1, u"the translation \"%1\" is not found"_s.arg(name),
+        addAt(languageSection + ".file"_L1, Findings::tr("the translation \"%1\" is not found").arg(name),
               languageSection + ".basedir"_L1);
     }
 

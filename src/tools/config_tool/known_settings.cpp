@@ -1,12 +1,11 @@
 #include "known_settings.h"
 
 #include "document_profile.h"
+#include "findings.h"
 #include "nearest_name.h"
 #include "printer_settings.h"
 #include "quoted.h"
 #include "tx_configuration.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <iterator>
@@ -250,27 +249,30 @@ QStringList choicesOf(const KnownSetting &setting)
 
 QString valueFault(const KnownSetting &setting, const QString &value)
 {
-    const QString statement = quoted(setting.name) + " is "_L1 + quoted(value) + ", "_L1;
     if (const PrinterSetting *ofPrinter = findPrinterSetting(setting.name)) {
         PrinterSettings printer;
         if (value.isEmpty() || ofPrinter->set(printer, value)) // an empty one counts as missing
             return {};
         const QString nearest =
             setting.name == "model"_L1 ? nearestName(value, choicesOf(setting)) : QString();
-        return statement + "not "_L1 + QString::fromLatin1(ofPrinter->expected)
-            + (nearest.isEmpty() ? QString() : u"; did you mean %1?"_s.arg(quoted(nearest)));
+        return Findings::tr("%1 is %2, not %3")
+                   .arg(quoted(setting.name), quoted(value), Findings::tr(ofPrinter->expected))
+            + (nearest.isEmpty() ? QString() : Findings::tr("; did you mean %1?").arg(quoted(nearest)));
     }
     if (setting.kind == SettingKind::onOff && value != "true"_L1 && value != "false"_L1)
-        return statement + u"neither \"true\" nor \"false\", so it is off"_s;
+        return Findings::tr("%1 is %2, neither \"true\" nor \"false\", so it is off")
+            .arg(quoted(setting.name), quoted(value));
     if (setting.kind == SettingKind::number) {
         bool isNumber = false;
         const int parsed = value.toInt(&isNumber);
         if (!isNumber)
-            return statement + u"no usable whole number, so it counts as 0"_s;
+            return Findings::tr("%1 is %2, no usable whole number, so it counts as 0")
+                .arg(quoted(setting.name), quoted(value));
         if (parsed < setting.least)
-            return statement + u"a negative number"_s;
+            return Findings::tr("%1 is %2, a negative number").arg(quoted(setting.name), quoted(value));
         if (parsed > setting.most)
-            return statement + u"more than any paper holds"_s;
+            return Findings::tr("%1 is %2, more than any paper holds")
+                .arg(quoted(setting.name), quoted(value));
     }
     return {};
 }

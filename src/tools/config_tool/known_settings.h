@@ -57,7 +57,7 @@ QStringList knownKeys(const TXConfiguration &configuration);
 /* What a setting of the kind choice takes. */
 QStringList choicesOf(const KnownSetting &setting);
 
-/* What is wrong with a value, in English; empty when nothing is. */
+/* What is wrong with a value, in the language of findings.h; empty when nothing is. */
 QString valueFault(const KnownSetting &setting, const QString &value);
 
 /* The value that holds while the configuration does not name the key; empty where there is none. */

@@ -1,5 +1,6 @@
 #include "label_widths.h"
 
+#include "findings.h"
 #include "quoted.h"
 
 #include <QTranslator>
@@ -74,19 +75,22 @@ std::vector<WideLabel> wideLabels(const DocumentType &type, const DocumentProfil
             continue;
         const QLatin1StringView setting =
             std::ranges::find(profileWidths, width, &ProfileSetting<int>::field)->name;
-        wide.push_back({setting,
-                        u"%1 is %2, but the title %3 has %4 characters, so it pushes its row wider"_s.arg(
-                            quoted(setting), QString::number(profile.*width), quoted(title),
-                            QString::number(title.size()))});
+        wide.push_back(
+            {setting,
+             Findings::tr("%1 is %2, but the title %3 has %4 characters, so it pushes its row wider")
+                 .arg(quoted(setting), QString::number(profile.*width), quoted(title),
+                      QString::number(title.size()))});
     }
     for (const auto &[documentType, key, width, isCut] : rowLabels) {
         const QString label = labels.translate("QObject", key);
         if (documentType != type.name || !isTooWide(label, (profile.*width)()))
             continue;
-        wide.push_back({"paperWidth"_L1,
-                        u"the label %1 has %2 characters, but %3 in its column, so it %4"_s.arg(
-                            quoted(label), QString::number(label.size()), QString::number((profile.*width)()),
-                            isCut ? u"is cut"_s : u"moves its figure"_s)});
+        const QString text = isCut
+            ? Findings::tr("the label %1 has %2 characters, but %3 in its column, so it is cut")
+            : Findings::tr("the label %1 has %2 characters, but %3 in its column, so it moves its figure");
+        wide.push_back(
+            {"paperWidth"_L1,
+             text.arg(quoted(label), QString::number(label.size()), QString::number((profile.*width)()))});
     }
     return wide;
 }
