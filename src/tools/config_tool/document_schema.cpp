@@ -1,8 +1,8 @@
 #include "document_schema.h"
 
 #include <QDomDocument>
-#include <QFile>
 #include <QHash>
+#include <QResource>
 #include <QSet>
 #include <QStringList>
 
@@ -123,10 +123,7 @@ DocumentSchema readDocumentSchema(const QByteArray &schema)
 
 const DocumentSchema &documentSchema()
 {
-    static const DocumentSchema schema = [] {
-        QFile file(u":/schema/tavolux-document.rng"_s);
-        file.open(QIODevice::ReadOnly);
-        return readDocumentSchema(file.readAll());
-    }();
+    static const DocumentSchema schema =
+        readDocumentSchema(QResource(u":/schema/tavolux-document.rng"_s).uncompressedData());
     return schema;
 }
