@@ -9,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -55,12 +54,10 @@ QStringList Preview::remarks() const
                        .arg(reading.reason);
     if (!printout.logoFault.isEmpty())
         remarks << PreviewRemarks::tr("The logo is not printed: %1").arg(printout.logoFault);
-    if (!printout.isKeptWhole()) {
-        const QLocale locale;
+    if (!printout.isKeptWhole())
         remarks << PreviewRemarks::tr("Only the first %1 of %2 lines are shown.")
-                       .arg(locale.toString(static_cast<qlonglong>(printout.lines.size())),
-                            locale.toString(printout.lineCount));
-    }
+                       .arg(shownNumber(static_cast<qlonglong>(printout.lines.size())),
+                            shownNumber(printout.lineCount));
     return remarks;
 }
 

@@ -20,3 +20,11 @@ bool loadInterface(QTranslator &translator, const QStringList &folders)
         return translator.load(QLocale(), u"tavolux-windows"_s, u"_"_s, folder);
     });
 }
+
+QString shownNumber(qlonglong number)
+{
+    QLocale locale;
+    // Where no language is set, some versions of the toolkit have others.
+    locale.setNumberOptions(QLocale::DefaultNumberOptions);
+    return locale.toString(number);
+}

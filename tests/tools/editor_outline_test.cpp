@@ -149,6 +149,8 @@ void EditorOutlineTest::explains_data()
     QTest::newRow("a switch") << u"tavolux.doc.printTable"_s << u"Whether the order's table is printed."_s;
     QTest::newRow("a number has bounds") << u"tavolux.printers.till.columns"_s
                                          << u"The length of a line of normal type. (1 to 255 characters)"_s;
+    QTest::newRow("large bounds") << u"tavolux.doc.quantityFieldWidth"_s
+                                  << u"The width of the column for quantities. (0 to 100,000 characters)"_s;
     QTest::newRow("nothing reads it") << u"tavolux.doc.mystery"_s << QString();
 }
 

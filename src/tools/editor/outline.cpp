@@ -1,9 +1,9 @@
 #include "outline.h"
 
+#include "interface_language.h"
 #include "printer_settings.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QSet>
 
 #include <algorithm>
@@ -131,8 +131,7 @@ QString explanationOf(const ShownSetting &setting)
     QString explanation = translated(setting.known->explanation);
     if (setting.known->kind != SettingKind::number)
         return explanation;
-    const QLocale locale;
     return Outline::tr("%1 (%2 to %3 %4)")
-        .arg(explanation, locale.toString(setting.known->least), locale.toString(setting.known->most),
+        .arg(explanation, shownNumber(setting.known->least), shownNumber(setting.known->most),
              translated(setting.known->unit));
 }
